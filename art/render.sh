@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Renders the SVG masters in this folder to the PNG files used by the program.
+# Needs rsvg-convert (Debian package librsvg2-bin).
+set -euo pipefail
+
+art="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
+out="$art/../src/ui/resources"
+mkdir -p "$out"
+
+render() { # master width height output
+    rsvg-convert --width "$2" --height "$3" --output "$out/$4" "$art/$1"
+}
+
+render picture.svg 72 96 picture.png
+render picture.svg 144 192 picture@2x.png
+render picture.svg 216 288 picture@3x.png
+
+for size in 16 32 48 64 128 256; do
+    render icon.svg "$size" "$size" "icon-$size.png"
+done

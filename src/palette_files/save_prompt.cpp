@@ -1,0 +1,36 @@
+#include "palette_files/save_prompt.h"
+
+#include "platform/binary_file.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace cirrava {
+
+bool choose_output(const FileDesk& desk, const SaveProposal& proposal) {
+    desk.cdlopen.InitDir = QCoreApplication::applicationDirPath();
+    desk.cdlopen.FileName = proposal.file_name;
+    desk.cdlopen.Filter = "*.bmp";
+    desk.cdlopen.DialogTitle = proposal.title;
+    desk.cdlopen.CancelError = true;
+    desk.cdlopen.ShowSave();
+    desk.out_path = desk.cdlopen.FileName;
+
+    const bool exists = plain_file_exists(file_path(desk.out_path));
+    return desk.dialogs.ask((exists ? "OVERWRITE " : "Write ") + desk.out_path + "?",
+                            "Ready to create");
+}
+
+void tell_failure(const Dialogs& dialogs, const QString& start, const Failure& failure,
+                  const QString& end) {
+    if (failure.number == FailureNumber::cancelled)
+        dialogs.tell("Operation Cancelled");
+    else
+        dialogs.tell(start + QString::number(static_cast<int>(failure.number)) + end);
+}
+
+std::filesystem::path file_path(const QString& path) {
+    return QFileInfo(path).filesystemFilePath();
+}
+
+} // namespace cirrava

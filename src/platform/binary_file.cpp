@@ -1,0 +1,112 @@
+#include "platform/binary_file.h"
+
+#include "platform/failure.h"
+
+#include <cerrno>
+#include <system_error>
+
+namespace cirrava {
+
+namespace {
+
+using enum FailureNumber;
+
+FailureNumber failure_of(std::error_code error) {
+    // The portable condition, since the code itself is the operating system's own on Windows.
+    switch (error.default_error_condition().value()) {
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EISDIR:
+    case ETXTBSY:
+    case ELOOP:
+        return path_access;
+    case ENOENT:
+    case ENOTDIR:
+        return path_not_found;
+    case ENAMETOOLONG:
+    case EINVAL:
+    case EILSEQ:
+        return bad_file_name;
+    case ENOSPC:
+    case EFBIG:
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+        return disk_full;
+    case EMFILE:
+    case ENFILE:
+        return too_many_files;
+    case ENXIO:
+    case ENODEV:
+    case EBUSY:
+#ifdef ENOMEDIUM
+    case ENOMEDIUM:
+#endif
+        return not_ready;
+    default:
+        return device_error;
+    }
+}
+
+std::error_code last_error() {
+    return {errno, std::generic_category()};
+}
+
+bool is_folder(const std::filesystem::path& path) {
+    std::error_code unanswered;
+    return std::filesystem::is_directory(path.empty() ? "." : path, unanswered);
+}
+
+} // namespace
+
+BinaryFile::BinaryFile(const std::filesystem::path& path, FileAccess access) {
+    if (path.empty())
+        throw Failure{bad_file_name};
+    std::error_code unanswered;
+    const auto status = std::filesystem::status(path, unanswered);
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+        throw Failure{path_access};
+
+    stream_.reset(open_stream(path, access));
+    if (stream_)
+        return;
+    const std::error_code error = last_error();
+    if (access == FileAccess::read && error == std::errc::no_such_file_or_directory &&
+        is_folder(path.parent_path()))
+        throw Failure{file_not_found};
+    throw Failure{failure_of(error)};
+}
+
+Bytes BinaryFile::read(std::size_t count) {
+    Bytes bytes(count);
+    bytes.resize(std::fread(bytes.data(), 1, count, stream_.get()));
+    if (std::ferror(stream_.get()) != 0)
+        throw Failure{failure_of(last_error())};
+    return bytes;
+}
+
+void BinaryFile::seek(long offset) {
+    if (std::fseek(stream_.get(), offset, SEEK_SET) != 0)
+        throw Failure{failure_of(last_error())};
+}
+
+void BinaryFile::write(std::span<const std::uint8_t> bytes) {
+    if (std::fwrite(bytes.data(), 1, bytes.size(), stream_.get()) != bytes.size())
+        throw Failure{failure_of(last_error())};
+}
+
+void BinaryFile::close() {
+    if (std::fclose(stream_.release()) != 0)
+        throw Failure{failure_of(last_error())};
+}
+
+bool plain_file_exists(const std::filesystem::path& path) {
+    std::error_code error;
+    const auto status = std::filesystem::status(path, error);
+    if (!std::filesystem::status_known(status))
+        throw Failure{failure_of(error)};
+    return std::filesystem::is_regular_file(status) && !is_hidden(path);
+}
+
+} // namespace cirrava

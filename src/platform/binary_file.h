@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/file_system.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace cirrava {
+
+using Bytes = std::vector<std::uint8_t>;
+
+// A regular file, open for as long as the object lives. Every operation that fails throws a
+// Failure: bad_file_name, file_not_found, device_error, disk_full, too_many_files, not_ready,
+// path_access (also for whatever is not a regular file) or path_not_found.
+class BinaryFile {
+public:
+    // Opens `path` at its first byte.
+    BinaryFile(const std::filesystem::path& path, FileAccess access);
+
+    // Reads the next `count` bytes, or as many as are left.
+    Bytes read(std::size_t count);
+
+    // Moves to `offset` bytes from the start of the file, which may lie past its end.
+    void seek(long offset);
+
+    // Writes all of `bytes` at the current place.
+    void write(std::span<const std::uint8_t> bytes);
+
+    // Ends the writing. A full disk may show itself only here: a write that counts calls this.
+    void close();
+
+private:
+    struct Closer {
+        void operator()(std::FILE* stream) const { std::fclose(stream); }
+    };
+    std::unique_ptr<std::FILE, Closer> stream_;
+};
+
+// Whether `path` names a file that is neither a folder or device nor hidden. Throws a Failure when
+// the system cannot tell.
+bool plain_file_exists(const std::filesystem::path& path);
+
+} // namespace cirrava

@@ -1,0 +1,43 @@
+#include "platform/common_dialog.h"
+
+#include "platform/failure.h"
+
+#include <QFileInfo>
+
+namespace cirrava {
+
+void CommonDialog::ShowOpen() {
+    take_path(dialogs_.open(file_question()));
+}
+
+void CommonDialog::ShowSave() {
+    take_path(dialogs_.save(file_question()));
+}
+
+void CommonDialog::ShowColor() {
+    const auto colour = dialogs_.colour();
+    check_cancel(colour.has_value());
+    Color = colour.value_or(Color);
+}
+
+FileQuestion CommonDialog::file_question() const {
+    const QFileInfo file(FileName);
+    const bool has_folder = FileName.contains(u'/');
+    const bool is_pattern = FileName == Filter;
+    return {.title = DialogTitle,
+            .filter = Filter,
+            .folder = has_folder ? file.path() : InitDir,
+            .name = is_pattern ? QString() : file.fileName()};
+}
+
+void CommonDialog::take_path(const std::optional<QString>& path) {
+    check_cancel(path.has_value());
+    FileName = path.value_or(FileName);
+}
+
+void CommonDialog::check_cancel(bool answered) const {
+    if (!answered && CancelError)
+        throw Failure{FailureNumber::cancelled};
+}
+
+} // namespace cirrava

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/dialogs.h"
+
+namespace cirrava {
+
+// The one dialog component that all file and colour dialogs of a window go through. Its members are
+// set before a call and keep their values from one call to the next.
+class CommonDialog {
+public:
+    explicit CommonDialog(const Dialogs& dialogs) : dialogs_(dialogs) {}
+
+    // Before a file dialog: the name to propose, with or without a folder; a pattern such as
+    // "*.bmp" proposes none. After it: the full path chosen.
+    QString FileName;
+    QString DialogTitle;
+    QString Filter;
+    QString InitDir;          // where a dialog opens when FileName has no folder
+    bool CancelError = false; // whether a cancel throws Failure{cancelled} or just returns
+    QColor Color;             // after ShowColor: the colour chosen
+
+    void ShowOpen();
+    void ShowSave();
+    void ShowColor();
+
+private:
+    FileQuestion file_question() const;
+    void take_path(const std::optional<QString>& path);
+    void check_cancel(bool answered) const;
+
+    const Dialogs& dialogs_;
+};
+
+} // namespace cirrava

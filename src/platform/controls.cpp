@@ -1,0 +1,106 @@
+#include "platform/controls.h"
+
+#include <QStyleOptionButton>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
+
+namespace cirrava {
+
+namespace {
+
+constexpr int bevel = 2;       // of a button, in pixels
+constexpr int focus_inset = 3; // from the edge of a control
+
+void paint_focus(QStylePainter& painter, const QWidget& control, const QColor& ground) {
+    if (!control.hasFocus())
+        return;
+    QStyleOptionFocusRect option;
+    option.initFrom(&control);
+    option.rect =
+        control.rect().marginsRemoved({focus_inset, focus_inset, focus_inset, focus_inset});
+    option.backgroundColor = ground;
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+}
+
+void give_sunken_border(QFrame& frame) {
+    frame.setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    frame.setLineWidth(2);
+    frame.setFocusPolicy(Qt::TabFocus);
+}
+
+} // namespace
+
+Button::Button() {
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void Button::set_face(const QColor& face) {
+    if (face == face_)
+        return;
+    face_ = face;
+    update();
+}
+
+void Button::paintEvent(QPaintEvent*) {
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    QStylePainter painter(this);
+    painter.drawControl(QStyle::CE_PushButtonBevel, option);
+    if (face_.isValid())
+        painter.fillRect(rect().adjusted(bevel, bevel, -bevel, -bevel),
+                         isDown() ? face_.darker(125) : face_);
+    const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    painter.setPen(palette().color(group, QPalette::ButtonText));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, text());
+    paint_focus(painter, *this, face_.isValid() ? face_ : palette().color(QPalette::Button));
+}
+
+NumberBar::NumberBar() : QScrollBar(Qt::Horizontal) {
+    setSingleStep(1);
+    setPageStep(1);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void NumberBar::paintEvent(QPaintEvent* event) {
+    QScrollBar::paintEvent(event);
+    QStylePainter painter(this);
+    paint_focus(painter, *this, palette().color(QPalette::Window));
+}
+
+Swatch::Swatch() {
+    give_sunken_border(*this);
+}
+
+void Swatch::set_colour(const QColor& colour) {
+    if (colour == colour_)
+        return;
+    colour_ = colour;
+    update();
+}
+
+void Swatch::paintEvent(QPaintEvent* event) {
+    QStylePainter painter(this);
+    painter.fillRect(contentsRect(), colour_);
+    QFrame::paintEvent(event);
+    paint_focus(painter, *this, colour_);
+}
+
+PictureBox::PictureBox() {
+    give_sunken_border(*this);
+}
+
+void PictureBox::set_image(const QImage& image) {
+    image_ = image;
+    update();
+}
+
+void PictureBox::paintEvent(QPaintEvent* event) {
+    QStylePainter painter(this);
+    painter.setClipRect(contentsRect());
+    painter.drawImage(QRect(contentsRect().topLeft(), image_.size()), image_);
+    painter.setClipping(false);
+    QFrame::paintEvent(event);
+    paint_focus(painter, *this, palette().color(QPalette::Window));
+}
+
+} // namespace cirrava

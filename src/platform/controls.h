@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QColor>
+#include <QFrame>
+#include <QImage>
+#include <QPushButton>
+#include <QScrollBar>
+
+// The kinds of controls that the toolkit lacks.
+namespace cirrava {
+
+// A push button that can be painted in a colour of its own, flat and exact, with its caption
+// wrapped and taken as plain text: no "&" in it makes a shortcut.
+class Button : public QPushButton {
+    Q_OBJECT
+public:
+    Button();
+
+    // An invalid colour gives back the standard look.
+    void set_face(const QColor& face);
+    QColor face() const { return face_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor face_;
+};
+
+// A horizontal scroll bar for a number: arrows, track, wheel and keys move it by 1, Tab reaches it,
+// and the focus shows on it.
+class NumberBar : public QScrollBar {
+    Q_OBJECT
+public:
+    NumberBar();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+// A horizontal line of one pixel in the window's text colour.
+class Line : public QFrame {
+    Q_OBJECT
+public:
+    Line() { setFrameStyle(QFrame::HLine | QFrame::Plain); }
+};
+
+// A box with a sunken border that shows one colour.
+class Swatch : public QFrame {
+    Q_OBJECT
+public:
+    Swatch();
+
+    void set_colour(const QColor& colour);
+    QColor colour() const { return colour_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor colour_;
+};
+
+// A box with a sunken border that shows an image at its natural size at the top left, each pixel a
+// sharp square at every scale factor. It starts empty.
+class PictureBox : public QFrame {
+    Q_OBJECT
+public:
+    PictureBox();
+
+    // A null image clears the box.
+    void set_image(const QImage& image);
+    const QImage& image() const { return image_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QImage image_;
+};
+
+} // namespace cirrava

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <functional>
+#include <optional>
+
+class QWidget;
+
+namespace cirrava {
+
+struct FileQuestion {
+    QString title;
+    QString filter; // a pattern such as "*.bmp"
+    QString folder; // in which the dialog opens
+    QString name;   // proposed, may be empty
+};
+
+// Everything that is asked of the user or told in a window of its own. Each call waits for the
+// answer; no answer means that the user cancelled. All texts are shown as plain text.
+struct Dialogs {
+    std::function<std::optional<QString>(const FileQuestion&)> open; // the full path chosen
+    std::function<std::optional<QString>(const FileQuestion&)> save; // likewise
+    std::function<std::optional<QColor>()> colour;
+    std::function<bool(const QString& text, const QString& title)> ask; // Yes (the default) or No
+    std::function<void(const QString& text)> tell;                      // OK only
+};
+
+// The toolkit's own dialogs, in front of `parent`, which must outlive them. The file dialogs let a
+// name pass that does not exist yet, and one that does, and add no suffix.
+Dialogs toolkit_dialogs(QWidget& parent);
+
+// The title of every message that gives none of its own.
+inline const QString program_title = QStringLiteral("CirravaPal");
+
+} // namespace cirrava

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdio>
+#include <filesystem>
+
+// What file access needs of the operating system in a way that standard C++ does not offer.
+// One implementation per system: file_system_posix.cpp, file_system_windows.cpp.
+namespace cirrava {
+
+enum class FileAccess {
+    read,      // an existing file
+    read_write // created when missing, never shortened
+};
+
+// Opens `path` at its first byte without waiting for anything, not even for the other end of a
+// pipe. Returns null and sets errno on failure.
+std::FILE* open_stream(const std::filesystem::path& path, FileAccess access);
+
+// Whether the system's file lists leave `path` out by default.
+bool is_hidden(const std::filesystem::path& path);
+
+} // namespace cirrava

@@ -1,0 +1,85 @@
+#include "platform/dialogs.h"
+
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+
+namespace cirrava {
+
+namespace {
+
+// The toolkit takes quotes in a typed name as separators between several names; here they are part
+// of the one name.
+class OneFileDialog : public QFileDialog {
+public:
+    OneFileDialog(QWidget& parent, const FileQuestion& question, AcceptMode mode)
+        : QFileDialog(&parent, question.title, question.folder, question.filter) {
+        // The desktop's own dialogs cannot be kept from asking about overwriting everywhere.
+        setOptions(DontUseNativeDialog | DontConfirmOverwrite);
+        setFileMode(AnyFile);
+        setAcceptMode(mode);
+        selectFile(question.name);
+    }
+
+    std::optional<QString> ask() {
+        if (exec() != Accepted)
+            return std::nullopt;
+        return quoted_.isEmpty() ? selectedFiles().value(0) : quoted_;
+    }
+
+protected:
+    void accept() override {
+        const auto* name = findChild<QLineEdit*>("fileNameEdit");
+        if (name == nullptr || !name->text().contains(u'"'))
+            return QFileDialog::accept();
+        quoted_ = directory().absoluteFilePath(name->text());
+        if (QFileInfo(quoted_).isDir())
+            setDirectory(quoted_);
+        else
+            QDialog::accept();
+    }
+
+private:
+    QString quoted_;
+};
+
+QMessageBox::StandardButton show_message(QWidget& parent, const QString& title, const QString& text,
+                                         QMessageBox::StandardButtons buttons) {
+    QMessageBox box(QMessageBox::NoIcon, title, text, buttons, &parent);
+    box.setTextFormat(Qt::PlainText);
+    if (buttons.testFlag(QMessageBox::Yes))
+        box.setDefaultButton(QMessageBox::Yes);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+std::optional<QColor> ask_colour(QWidget& parent) {
+    const QColor colour =
+        QColorDialog::getColor(Qt::black, &parent, {}, QColorDialog::DontUseNativeDialog);
+    return colour.isValid() ? std::optional(colour) : std::nullopt;
+}
+
+} // namespace
+
+Dialogs toolkit_dialogs(QWidget& parent) {
+    return {.open =
+                [&parent](const FileQuestion& question) {
+                    return OneFileDialog(parent, question, QFileDialog::AcceptOpen).ask();
+                },
+            .save =
+                [&parent](const FileQuestion& question) {
+                    return OneFileDialog(parent, question, QFileDialog::AcceptSave).ask();
+                },
+            .colour = [&parent] { return ask_colour(parent); },
+            .ask =
+                [&parent](const QString& text, const QString& title) {
+                    return show_message(parent, title, text, QMessageBox::Yes | QMessageBox::No) ==
+                           QMessageBox::Yes;
+                },
+            .tell =
+                [&parent](const QString& text) {
+                    show_message(parent, program_title, text, QMessageBox::Ok);
+                }};
+}
+
+} // namespace cirrava

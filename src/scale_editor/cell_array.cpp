@@ -1,0 +1,108 @@
+#include "scale_editor/cell_array.h"
+
+#include "platform/twips.h"
+#include "scale_editor/qt_values.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <algorithm>
+
+namespace cirrava {
+
+namespace {
+
+// In twips.
+constexpr int left_margin = 120;
+constexpr int pitch = 120;
+constexpr int row_pitch = 480;
+constexpr int cell_size = 255;
+constexpr int mark_inset = 15;
+
+constexpr int cells_per_row = 100;
+
+} // namespace
+
+CellArray::CellArray(ScaleKind kind)
+    : kind_(kind), colours_(static_cast<std::size_t>(cell_count(kind)), RGB(0, 0, 0)) {}
+
+void CellArray::set_colour(int cell, Colour colour) {
+    colours_.at(static_cast<std::size_t>(cell)) = colour;
+    update(mark(cell));
+}
+
+void CellArray::lay_out(int top, int dpi) {
+    top_ = top;
+    dpi_ = dpi;
+    const int count = cell_count(kind_);
+    const int rows = (count - 1) / cells_per_row;
+    const int columns = std::min(count, cells_per_row) - 1;
+    setGeometry(to_pixels(
+        {left_margin, top, columns * pitch + cell_size, rows * row_pitch + cell_size}, dpi));
+}
+
+QRect CellArray::cell_box(int cell) const {
+    return cell_pixels(cell, 0, cell_size, cell_size);
+}
+
+QRect CellArray::mark(int cell) const {
+    return cell_pixels(cell, mark_inset, pitch, cell_size - 2 * mark_inset);
+}
+
+QRect CellArray::cell_pixels(int cell, int inset_top, int width, int height) const {
+    const Place place{left_margin + pitch * (cell % cells_per_row),
+                      top_ + row_pitch * (cell / cells_per_row) + inset_top, width, height};
+    return to_pixels(place, dpi_).translated(-pos());
+}
+
+int CellArray::cell_at(QPoint place) const {
+    int cell = cell_count(kind_) - 1; // the highest first, since it lies on top
+    while (cell >= 0 && !cell_box(cell).contains(place))
+        --cell;
+    return cell;
+}
+
+bool CellArray::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const int cell = cell_at(help->pos());
+    if (cell < 0)
+        QToolTip::hideText();
+    else
+        QToolTip::showText(help->globalPos(), to_qt(tooltip_text(kind_, cell)), this, mark(cell));
+    return true;
+}
+
+void CellArray::paintEvent(QPaintEvent* event) {
+    QPainter painter(this); // without antialiasing, edges fall on device pixels at every scale
+    for (int cell = 0; cell < cell_count(kind_); ++cell) {
+        const QRect box = mark(cell);
+        if (event->region().intersects(box))
+            painter.fillRect(box, to_qt(colour(cell)));
+    }
+}
+
+void CellArray::mousePressEvent(QMouseEvent*) {
+    // Taken, so that the release comes here too.
+}
+
+void CellArray::mouseReleaseEvent(QMouseEvent* event) {
+    // The scale on which the button went down gets the release, wherever the pointer has gone.
+    const QPoint in_window = mapToParent(event->position().toPoint());
+    auto* const under_pointer = qobject_cast<CellArray*>(parentWidget()->childAt(in_window));
+    if (under_pointer == nullptr)
+        return;
+    const int cell = under_pointer->cell_at(under_pointer->mapFromParent(in_window));
+    if (cell >= 0)
+        emit under_pointer->cell_released(cell, event->button());
+}
+
+void CellArray::mouseDoubleClickEvent(QMouseEvent* event) {
+    const int cell = cell_at(event->position().toPoint());
+    if (cell >= 0)
+        emit cell_double_clicked(cell);
+}
+
+} // namespace cirrava

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "scale_editor/colour.h"
+#include "scale_editor/scale.h"
+
+#include <QWidget>
+#include <span>
+#include <vector>
+
+namespace cirrava {
+
+// All cells of one scale: rows of 100 cells that overlap like tiles, so that each shows a strip 120
+// twips wide and the last of a row its whole 255. The colours of the cells are the palette, and
+// they stand nowhere else. Every cell starts black.
+//
+// The widget covers the labels between its rows; there it is transparent and reacts to nothing.
+class CellArray : public QWidget {
+    Q_OBJECT
+public:
+    explicit CellArray(ScaleKind kind);
+
+    ScaleKind kind() const { return kind_; }
+    std::span<const Colour> colours() const { return colours_; }
+    Colour colour(int cell) const { return colours_.at(static_cast<std::size_t>(cell)); }
+
+    // `cell` must be one of the scale's. Repaints it.
+    void set_colour(int cell, Colour colour);
+
+    // Puts the scale into its parent window, its first row `top` twips from the top, for `dpi`
+    // logical dots per inch.
+    void lay_out(int top, int dpi);
+
+    // Where a cell takes the mouse, in this widget's pixels; a cell lies over the one before it.
+    QRect cell_box(int cell) const;
+
+signals:
+    // A mouse button was released over `cell`, wherever it was pressed on this or another scale.
+    void cell_released(int cell, Qt::MouseButton button);
+    void cell_double_clicked(int cell);
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    QRect cell_pixels(int cell, int inset_top, int width, int height) const;
+    QRect mark(int cell) const;
+    int cell_at(QPoint place) const; // -1 outside every cell
+
+    ScaleKind kind_;
+    std::vector<Colour> colours_;
+    int top_ = 0;
+    int dpi_ = 96;
+};
+
+// The three scales of a window.
+struct Scales {
+    CellArray& thermal_char;
+    CellArray& Label2;
+    CellArray& Label3;
+
+    CellArray& operator[](ScaleKind kind) const {
+        return kind == ScaleKind::thermal ? thermal_char : kind == ScaleKind::sea ? Label2 : Label3;
+    }
+};
+
+} // namespace cirrava

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QWidget>
+
+namespace cirrava {
+
+// The red arrow at the end of a row of cells that goes on in the row below.
+class ContinuationMark : public QWidget {
+    Q_OBJECT
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace cirrava

@@ -1,0 +1,162 @@
+#include "ui/cirrava_layout.h"
+
+#include "scale_editor/qt_values.h"
+#include "ui/cirrava_tables.h"
+
+#include <QIcon>
+
+namespace cirrava {
+
+namespace {
+
+class Builder {
+public:
+    Builder(CirravaControls& controls, QWidget& window)
+        : controls_(controls), window_(window), dpi_(window.logicalDpiX()) {}
+
+    template <class Control, std::size_t count>
+    void place(const tables::Row<Control> (&rows)[count]) {
+        for (const auto& row : rows) {
+            Control& control = controls_.*row.control;
+            place(control, row.name, row.place);
+            finish(control, row.caption, row.look);
+        }
+    }
+
+    template <std::size_t count>
+    void place_ticks(std::array<QLabel, count>& ticks, const char* name,
+                     const Place (&places)[count]) {
+        for (std::size_t i = 0; i < count; ++i) {
+            place(ticks[i], member_name(name, i), places[i]);
+            finish(ticks[i], "", {.text = tables::black});
+        }
+    }
+
+    void place_presets() {
+        for (std::size_t i = 0; i < controls_.color.size(); ++i) {
+            const QColor colour = to_qt(tables::preset_colours[i]);
+            Button& preset = controls_.color[i];
+            place(preset, member_name("color", i),
+                  {2040 + 240 * tables::preset_slot(static_cast<int>(i)), 7200, 255, 255});
+            preset.set_face(colour);
+            preset.setAccessibleName(QString("Preset %1: %2, %3, %4")
+                                         .arg(i)
+                                         .arg(colour.red())
+                                         .arg(colour.green())
+                                         .arg(colour.blue()));
+        }
+    }
+
+    void place_scales() {
+        for (const tables::ScaleRow& row : tables::scales) {
+            CellArray& cells = controls_.*row.control;
+            cells.setParent(&window_);
+            cells.setObjectName(row.name);
+            cells.setAccessibleName(row.spoken);
+            cells.lay_out(row.top, dpi_);
+            cells.raise(); // above the temperatures between its rows
+        }
+    }
+
+private:
+    static QString member_name(const char* array, std::size_t index) {
+        return QString("%1(%2)").arg(array).arg(index);
+    }
+
+    void place(QWidget& control, const QString& name, const Place& place) {
+        control.setParent(&window_);
+        control.setObjectName(name);
+        control.setGeometry(to_pixels(place, dpi_));
+    }
+
+    static void finish(QLabel& label, const char* caption, const Look& look) {
+        dress(label, look);
+        label.setTextFormat(Qt::PlainText);
+        label.setWordWrap(true);
+        label.setText(caption);
+    }
+
+    static void finish(Button& button, const char* caption, const Look& look) {
+        dress(button, {.font = look.font});
+        if (look.ground)
+            button.set_face(*look.ground);
+        button.setText(caption);
+    }
+
+    static void finish(QLineEdit& box, const char* spoken, const Look& look) {
+        dress(box, look);
+        box.setReadOnly(true);
+        box.setAccessibleName(spoken);
+    }
+
+    static void finish(QWidget& control, const char* spoken, const Look&) {
+        control.setAccessibleName(spoken);
+    }
+
+    CirravaControls& controls_;
+    QWidget& window_;
+    int dpi_;
+};
+
+QIcon program_icon() {
+    QIcon icon;
+    for (const int size : {16, 32, 48, 64, 128, 256})
+        icon.addFile(QString(":/icon-%1.png").arg(size), {size, size});
+    return icon;
+}
+
+void set_tab_order(CirravaControls& c) {
+    QWidget* last = &c.Text1;
+    const auto then = [&last](QWidget& next) {
+        QWidget::setTabOrder(last, &next);
+        last = &next;
+    };
+    for (QWidget* next : std::initializer_list<QWidget*>{
+             &c.Text2, &c.Text3, &c.Text4, &c.HScroll1, &c.HScroll2, &c.HScroll3, &c.sample,
+             &c.Command2, &c.Command3, &c.Command4, &c.Command5, &c.Command6, &c.thermal_command,
+             &c.sea_command, &c.hvc_command})
+        then(*next);
+    for (Button& preset : c.color)
+        then(preset);
+    for (QWidget* next :
+         std::initializer_list<QWidget*>{&c.pickcolor, &c.hvc_help, &c.Picture1, &c.HScroll4,
+                                         &c.Command1, &c.thermal_butt, &c.Sea_butt, &c.hvc_butt})
+        then(*next);
+}
+
+} // namespace
+
+void lay_out(CirravaControls& controls, QWidget& window) {
+    window.setWindowTitle("Cirrava PAL");
+    window.setWindowIcon(program_icon());
+    window.setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
+                          Qt::MSWindowsFixedSizeDialogHint);
+    window.setFixedSize(to_pixels(tables::client_area, window.logicalDpiX()).size());
+
+    Builder builder(controls, window);
+    builder.place(tables::labels);
+    builder.place(tables::marks);
+    builder.place(tables::lines);
+    builder.place(tables::buttons);
+    builder.place(tables::boxes);
+    builder.place(tables::bars);
+    builder.place(tables::swatches);
+    builder.place(tables::picture_boxes);
+    builder.place_ticks(controls.T1C, "T1C", tables::thermal_ticks);
+    builder.place_ticks(controls.SS, "SS", tables::sea_ticks);
+    builder.place_ticks(controls.hvc, "hvc", tables::hvc_ticks);
+    builder.place_presets();
+    builder.place_scales();
+
+    controls.Image1.setPixmap(QPixmap(":/picture.png"));
+    controls.Label1.setIndent(controls.Label1.fontMetrics().averageCharWidth() / 2); // off the picture
+    controls.Command2.setToolTip("Click to apply color to range selected");
+    set_tab_order(controls);
+}
+
+Colour preset_colour(int index) {
+    return tables::preset_colours.at(static_cast<std::size_t>(index));
+}
+
+} // namespace cirrava

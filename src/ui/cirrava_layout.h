@@ -1,0 +1,14 @@
+#pragma once
+
+#include "ui/cirrava_controls.h"
+
+namespace cirrava {
+
+// Puts every control into `window` at its place, with its name, caption, look and tab order, and
+// gives the window its size, icon and frame. Sizes follow the window's logical dots per inch.
+void lay_out(CirravaControls& controls, QWidget& window);
+
+// The colour of a preset button, 0 to 47.
+Colour preset_colour(int index);
+
+} // namespace cirrava

@@ -1,0 +1,62 @@
+#include "ui/look.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+namespace cirrava {
+
+namespace {
+
+// The named families where present, else near equivalents.
+const QStringList sans_families{"MS Sans Serif", "Liberation Sans", "Arial", "DejaVu Sans"};
+const QStringList narrow_families{"Arial Narrow", "Liberation Sans Narrow", "Arial", "DejaVu Sans"};
+
+QPalette light_palette() {
+    QPalette palette(QColor(240, 240, 240)); // shades of the bevels follow from the ground
+    palette.setColor(QPalette::WindowText, Qt::black);
+    palette.setColor(QPalette::ButtonText, Qt::black);
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(247, 247, 247));
+    palette.setColor(QPalette::Highlight, QColor(0, 95, 184));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 225));
+    palette.setColor(QPalette::ToolTipText, Qt::black);
+    palette.setColor(QPalette::PlaceholderText, QColor(110, 110, 110));
+    const QColor faint(120, 120, 120);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+        palette.setColor(QPalette::Disabled, role, faint);
+    return palette;
+}
+
+} // namespace
+
+QFont to_font(const FontLook& look) {
+    QFont font;
+    font.setFamilies(look.family == FontFamily::narrow ? narrow_families : sans_families);
+    font.setPointSizeF(look.points);
+    font.setBold(look.bold);
+    font.setUnderline(look.underlined);
+    return font;
+}
+
+void dress(QWidget& control, const Look& look) {
+    control.setFont(to_font(look.font));
+    QPalette palette = control.palette();
+    if (look.text)
+        palette.setColor(control.foregroundRole(), QColor(*look.text));
+    if (look.ground) {
+        palette.setColor(control.backgroundRole(), QColor(*look.ground));
+        control.setAutoFillBackground(true);
+    }
+    control.setPalette(palette);
+}
+
+void dress(QApplication& application) {
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setPalette(light_palette());
+    application.setFont(to_font({}));
+}
+
+} // namespace cirrava

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QFont>
+#include <QWidget>
+#include <optional>
+
+class QApplication;
+
+// How the program looks, on every desktop the same: colours are judged against a neutral ground.
+namespace cirrava {
+
+enum class FontFamily { sans, narrow };
+
+struct FontLook {
+    FontFamily family = FontFamily::sans;
+    double points = 8.25;
+    bool bold = false;
+    bool underlined = false;
+};
+
+// How a control differs from the program's standard look.
+struct Look {
+    std::optional<QRgb> text = {};
+    std::optional<QRgb> ground = {};
+    FontLook font = {};
+};
+
+QFont to_font(const FontLook& look);
+
+// Gives `control` the font and text colour of `look`, and its ground where the control fills one.
+void dress(QWidget& control, const Look& look);
+
+// The Fusion style with one fixed light palette and the standard font. Before any window is made.
+void dress(QApplication& application);
+
+} // namespace cirrava
