@@ -41,6 +41,10 @@ void Button::set_face(const QColor& face) {
     update();
 }
 
+QRect Button::caption_box() const {
+    return rect().marginsRemoved({focus_inset, focus_inset, focus_inset, focus_inset});
+}
+
 void Button::paintEvent(QPaintEvent*) {
     QStyleOptionButton option;
     initStyleOption(&option);
@@ -51,13 +55,14 @@ void Button::paintEvent(QPaintEvent*) {
                          isDown() ? face_.darker(125) : face_);
     const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     painter.setPen(palette().color(group, QPalette::ButtonText));
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, text());
+    painter.drawText(caption_box(), Qt::AlignCenter | Qt::TextDontClip | Qt::TextWordWrap, text());
     paint_focus(painter, *this, face_.isValid() ? face_ : palette().color(QPalette::Button));
 }
 
 NumberBar::NumberBar() : QScrollBar(Qt::Horizontal) {
     setSingleStep(1);
     setPageStep(1);
+    setInvertedControls(false); // right and up are more, for keys and wheel
     setFocusPolicy(Qt::StrongFocus);
 }
 

@@ -20,6 +20,8 @@ public:
     void set_face(const QColor& face);
     QColor face() const { return face_; }
 
+    QRect caption_box() const; // in the button's pixels
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

@@ -2,6 +2,7 @@
 
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 
@@ -48,6 +49,8 @@ QMessageBox::StandardButton show_message(QWidget& parent, const QString& title, 
                                          QMessageBox::StandardButtons buttons) {
     QMessageBox box(QMessageBox::NoIcon, title, text, buttons, &parent);
     box.setTextFormat(Qt::PlainText);
+    if (auto* const label = box.findChild<QLabel*>("qt_msgbox_label")) // wide enough for the title
+        label->setMinimumWidth(2 * box.fontMetrics().horizontalAdvance(title));
     if (buttons.testFlag(QMessageBox::Yes))
         box.setDefaultButton(QMessageBox::Yes);
     return static_cast<QMessageBox::StandardButton>(box.exec());

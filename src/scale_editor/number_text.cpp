@@ -18,9 +18,9 @@ std::string fixed_text(double value, int decimals) {
     return {buffer.data(), end};
 }
 
+// 3 for 121.1, 0 for 0.5, -1 for 0.05.
 int digits_before_point(double value) {
-    const double magnitude = std::fabs(value);
-    return magnitude < 1 ? 1 : static_cast<int>(std::floor(std::log10(magnitude))) + 1;
+    return value == 0 ? 1 : static_cast<int>(std::floor(std::log10(std::fabs(value)))) + 1;
 }
 
 } // namespace

@@ -10,6 +10,7 @@ const QString blank = QStringLiteral(" ");
 
 void follow(const QLineEdit& celsius, QLineEdit& fahrenheit) {
     fahrenheit.setText(to_qt(fahrenheit_text(celsius.text().toStdString())));
+    fahrenheit.setCursorPosition(0); // of a number wider than the box, the first digits show
 }
 
 } // namespace

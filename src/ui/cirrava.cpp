@@ -13,6 +13,7 @@ Cirrava::Cirrava(Dialogs dialogs) : dialogs_(std::move(dialogs)) {
     connect_colour();
     connect_files();
     load();
+    fit_captions(*this);
 }
 
 void Cirrava::load() {

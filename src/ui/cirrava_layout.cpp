@@ -150,9 +150,17 @@ void lay_out(CirravaControls& controls, QWidget& window) {
     builder.place_scales();
 
     controls.Image1.setPixmap(QPixmap(":/picture.png"));
-    controls.Label1.setIndent(controls.Label1.fontMetrics().averageCharWidth() / 2); // off the picture
+    controls.Label1.setIndent(controls.Label1.fontMetrics().averageCharWidth() /
+                              2); // off the picture
     controls.Command2.setToolTip("Click to apply color to range selected");
     set_tab_order(controls);
+}
+
+void fit_captions(const QWidget& window) {
+    for (auto* const label : window.findChildren<QLabel*>())
+        fit(*label, label->text().trimmed(), label->contentsRect());
+    for (auto* const button : window.findChildren<Button*>())
+        fit(*button, button->text().trimmed(), button->caption_box());
 }
 
 Colour preset_colour(int index) {

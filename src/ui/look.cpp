@@ -2,7 +2,8 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
+#include <algorithm>
 
 namespace cirrava {
 
@@ -11,6 +12,23 @@ namespace {
 // The named families where present, else near equivalents.
 const QStringList sans_families{"MS Sans Serif", "Liberation Sans", "Arial", "DejaVu Sans"};
 const QStringList narrow_families{"Arial Narrow", "Liberation Sans Narrow", "Arial", "DejaVu Sans"};
+
+class ProgramStyle : public QProxyStyle {
+public:
+    ProgramStyle() : QProxyStyle("Fusion") {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        switch (hint) {
+        case SH_ScrollBar_LeftClickAbsolutePosition: // the track moves by one step, never jumps
+        case SH_ScrollBar_MiddleClickAbsolutePosition:
+        case SH_DialogButtonBox_ButtonsHaveIcons:
+            return 0;
+        default:
+            return QProxyStyle::styleHint(hint, option, widget, data);
+        }
+    }
+};
 
 QPalette light_palette() {
     QPalette palette(QColor(240, 240, 240)); // shades of the bevels follow from the ground
@@ -53,8 +71,24 @@ void dress(QWidget& control, const Look& look) {
     control.setPalette(palette);
 }
 
+void fit(QWidget& control, const QString& caption, const QRect& box) {
+    constexpr int narrowest = 60; // percent; below it nobody could read it
+    const auto fits = [&] {
+        const QFontMetrics metrics = control.fontMetrics();
+        const QRect endless(0, 0, box.width(), QWIDGETSIZE_MAX);
+        const QSize room = metrics.boundingRect(endless, Qt::TextWordWrap, caption).size();
+        return room.width() <= box.width() &&
+               room.height() <= std::max(box.height(), metrics.height());
+    };
+    QFont font = control.font();
+    for (int percent = 98; !fits() && percent >= narrowest; percent -= 2) {
+        font.setStretch(percent);
+        control.setFont(font);
+    }
+}
+
 void dress(QApplication& application) {
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new ProgramStyle); // the application owns it
     QApplication::setPalette(light_palette());
     application.setFont(to_font({}));
 }

@@ -30,6 +30,11 @@ QFont to_font(const FontLook& look);
 // Gives `control` the font and text colour of `look`, and its ground where the control fills one.
 void dress(QWidget& control, const Look& look);
 
+// Narrows the font of `control` as far as its caption needs to fit `box` (in the control's pixels),
+// wrapped where the box has room for several lines. Fonts differ in width from one machine to the
+// next; places do not.
+void fit(QWidget& control, const QString& caption, const QRect& box);
+
 // The Fusion style with one fixed light palette and the standard font. Before any window is made.
 void dress(QApplication& application);
 

@@ -1,0 +1,26 @@
+# The Debian packages that the project needs, and how they get onto the machine. To be sourced.
+
+build_packages=(cmake fonts-liberation g++ ninja-build qt6-base-dev)
+test_packages=(libgtest-dev)
+screen_packages=(imagemagick openbox x11-utils xdotool xvfb)
+
+install_packages() {
+    local package missing=() as_root=()
+    for package in "$@"; do
+        dpkg-query --show --showformat='${Status}' "$package" 2>/dev/null |
+            grep -q 'install ok installed' || missing+=("$package")
+    done
+    [[ ${#missing[@]} -eq 0 ]] && return
+
+    if [[ $EUID -ne 0 ]]; then
+        as_root=(sudo)
+    fi
+    if ! command -v apt-get >/dev/null || ! command -v "${as_root[0]:-true}" >/dev/null; then
+        printf 'Please install these packages (named as on Debian) and start again:\n' >&2
+        printf '  %s\n' "${missing[@]}" >&2
+        exit 1
+    fi
+    "${as_root[@]}" apt-get update
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install --yes --no-install-recommends "${missing[@]}"
+}

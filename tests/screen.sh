@@ -1,0 +1,76 @@
+# A private screen with a window manager, and a person's hands and eyes on it. To be sourced.
+# Everything waits for a state of the screen or of a file and gives up after a minute.
+
+patience=60 # seconds
+
+started=()
+trap 'for id in "${started[@]}"; do kill "$id" 2>/dev/null || true; done' EXIT
+
+fail() {
+    echo "FAILED: $*" >&2
+    import -window root "$folder/failed.png" 2>/dev/null || true
+    exit 1
+}
+
+# wait_until COMMAND...: returns as soon as the command succeeds.
+wait_until() {
+    local end=$((SECONDS + patience))
+    until "$@" 2>/dev/null; do
+        ((SECONDS < end)) || fail "waited in vain for: $*"
+        sleep 0.05 # between two looks
+    done
+}
+
+window_manager_runs() { [[ $(xprop -root _NET_SUPPORTING_WM_CHECK) == *0x* ]]; }
+
+open_screen() {
+    local number="$folder/.display"
+    : >"$number"
+    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$number" 2>/dev/null &
+    started+=($!)
+    wait_until test -s "$number"
+    DISPLAY=:$(<"$number")
+    export DISPLAY
+    rm "$number"
+    openbox &
+    started+=($!)
+    wait_until window_manager_runs
+}
+
+is_active() { [[ $(xdotool getactivewindow getwindowname) == "$1" ]]; }
+
+# in_window TITLE: waits until the window of that title has the keyboard.
+in_window() { wait_until is_active "$1"; }
+
+# The place of a point of the main window, given in twips, on a screen of 96 dots per inch.
+pixels() { echo $(($1 / 15)); }
+
+point_at() { xdotool mousemove --window "$window" "$(pixels "$1")" "$(pixels "$2")"; }
+
+# click LEFT TOP [BUTTON]: in twips of the main window.
+click() {
+    point_at "$1" "$2"
+    xdotool click "${3:-1}"
+}
+
+# colour_at LEFT TOP: six hexadecimal digits, in twips of the main window.
+colour_at() {
+    import -window "$window" -crop "1x1+$(pixels "$1")+$(pixels "$2")" -depth 8 rgb:- |
+        od -An -tx1 | tr -d ' \n'
+}
+
+shows() { [[ $(colour_at "$1" "$2") == "$3" ]]; }
+
+# see LEFT TOP COLOUR: waits until that point of the main window has that colour.
+see() { wait_until shows "$@"; }
+
+picture() { import -window root "$folder/$1.png"; }
+
+has_size() { [[ $(stat --format=%s "$1") == "$2" ]]; }
+
+# expect_file FILE EXPECTED: waits for the length, then compares every byte.
+expect_file() {
+    wait_until has_size "$1" "$(stat --format=%s "$2")"
+    cmp "$1" "$2" || fail "$1 differs from what it must be"
+    echo "$(basename "$1"): $(stat --format=%s "$1") bytes, each as it must be"
+}

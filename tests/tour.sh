@@ -1,0 +1,102 @@
+#!/usr/bin/env bash
+# The typical use of the built program, by real clicks and keys on a private screen.
+# tour.sh PROGRAM FOLDER: leaves pictures and palette files in FOLDER.
+set -euo pipefail
+program=$(realpath "$1")
+folder=$(realpath "$2")
+tests=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+. "$tests/screen.sh"
+. "$tests/expected_files.sh"
+
+# The places of the controls, in twips.
+cell() { echo $((120 + 120 * ($2 % 100) + 60)) $(($1 + 480 * ($2 / 100) + 120)); }
+thermal_cell() { cell 2040 "$1"; }
+sea_cell() { cell 4440 "$1"; }
+preset_9="4080 7320"   # 255, 0, 0
+preset_12="5040 7320"  # 255, 224, 192
+swatch="12000 8000"
+apply="13700 8050"
+blue_left_arrow="4530 8400"
+sea_butt="1000 4200"
+thermal_command="5900 1860"
+sea_command="6100 4260"
+quit="12800 9000"
+
+# save_as BUTTON DIALOG-TITLE FILE: up to the prompt.
+save_as() {
+    click $1
+    in_window "$2"
+    xdotool type --delay 0 "$3"
+    xdotool key Return
+    in_window "Ready to create"
+}
+
+answer_message() {
+    in_window "CirravaPal"
+    picture "$1"
+    xdotool key Return
+    in_window "Cirrava PAL"
+}
+
+open_screen
+cd "$folder"
+"$program" &
+program_id=$!
+started+=("$program_id")
+in_window "Cirrava PAL"
+window=$(xdotool getactivewindow)
+see $swatch 000000
+picture 1-start
+
+click $apply
+answer_message 2-no-range
+
+click $(thermal_cell 220)
+click $(thermal_cell 259) 3
+click $preset_9
+see $swatch ff0000
+click $apply
+see $(thermal_cell 220) ff0000
+see $(thermal_cell 259) ff0000
+see $(thermal_cell 260) 000000
+picture 3-thermal
+
+save_as "$thermal_command" "Create Thermal" "$folder/thermal.bmp"
+picture 4-write-prompt
+xdotool key Return
+{ headers 320 1 && pixels_of 220 0 0 0 && pixels_of 40 255 0 0 && pixels_of 60 0 0 0; } >expected
+expect_file thermal.bmp expected
+
+click $sea_butt
+click $(sea_cell 0)
+click $(sea_cell 49) 3
+click $preset_12
+see $swatch ffe0c0
+click $blue_left_arrow
+see $swatch ffe0bf
+click $apply
+see $(sea_cell 49) ffe0bf
+save_as "$sea_command" "Create Sea Surface Palette" "$folder/sea.bmp"
+xdotool key Return
+{ headers 250 1 && pixels_of 50 255 224 191 && pixels_of 200 0 0 0 && little_endian 0 2; } >expected
+expect_file sea.bmp expected
+
+cp thermal.bmp older.bmp
+tail --bytes=208 older.bmp >>expected
+save_as "$sea_command" "Create Sea Surface Palette" "$folder/older.bmp"
+picture 5-overwrite-prompt
+xdotool key Return
+wait_until cmp --silent --bytes=806 older.bmp sea.bmp
+expect_file older.bmp expected
+
+click $sea_command
+in_window "Create Sea Surface Palette"
+picture 6-save-dialog
+xdotool key Escape
+answer_message 7-cancelled
+picture 8-end
+
+click $quit
+wait "$program_id" || fail "the program ended with status $?"
+rm expected
+echo "The tour is complete."
