@@ -25,8 +25,22 @@ headers() { # WIDTH HEIGHT
 }
 
 pixels_of() { # COUNT RED GREEN BLUE
-    local i
-    for ((i = 0; i < $1; ++i)); do
-        little_endian $(($4 | $3 << 8 | $2 << 16)) 3
+    local pixel
+    printf -v pixel '\\x%02x' "$4" "$3" "$2"
+    printf "$pixel%.0s" $(seq "$1")
+}
+
+# clamp VALUE: 0 to 255
+clamp() { echo $(($1 < 0 ? 0 : $1 > 255 ? 255 : $1)); }
+
+# The image of an HVC scale of black cells, but for COUNT cells from FIRST in one colour.
+hvc_rows() { # FIRST COUNT RED GREEN BLUE
+    local row level black
+    for ((row = 255; row >= 0; --row)); do # stored bottom first
+        level=$((127 - row))
+        black=$(clamp $level)
+        pixels_of "$1" "$black" "$black" "$black"
+        pixels_of "$2" "$(clamp $(($3 + level)))" "$(clamp $(($4 + level)))" "$(clamp $(($5 + level)))"
+        pixels_of $((100 - $1 - $2)) "$black" "$black" "$black"
     done
 }

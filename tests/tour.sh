@@ -20,6 +20,14 @@ blue_left_arrow="4530 8400"
 sea_butt="1000 4200"
 thermal_command="5900 1860"
 sea_command="6100 4260"
+hvc_butt="1200 6200"
+hvc_cell() { cell 6360 "$1"; }
+hvc_command="7800 6060"
+darker="9920 6120"
+lighter="11440 6120"
+preview_of_cell_30="13080 4335" # in row 127
+pickcolor="10980 8050"
+load="5500 9000"
 quit="12800 9000"
 
 # save_as BUTTON DIALOG-TITLE FILE: up to the prompt.
@@ -94,7 +102,41 @@ in_window "Create Sea Surface Palette"
 picture 6-save-dialog
 xdotool key Escape
 answer_message 7-cancelled
-picture 8-end
+
+click $hvc_butt
+click $(hvc_cell 20)
+click $(hvc_cell 39) 3
+click $apply
+see $(hvc_cell 39) ffe0bf
+see $preview_of_cell_30 ffe0bf
+click $darker
+see $preview_of_cell_30 fadbba
+click $darker
+see $preview_of_cell_30 f5d6b5
+click $lighter
+see $preview_of_cell_30 fadbba
+see $(hvc_cell 20) fadbba
+picture 8-hvc
+save_as "$hvc_command" "Create HVC Palette" "$folder/hvc.bmp"
+xdotool key Return
+{ headers 100 256 && hvc_rows 20 20 250 219 186; } >expected
+expect_file hvc.bmp expected
+
+click $load
+in_window "Read and Load palette"
+picture 9-open-dialog
+xdotool type --delay 0 "$folder/hvc.bmp"
+xdotool key Return
+in_window "Cirrava PAL"
+see $(hvc_cell 20) f8d9b8
+see $preview_of_cell_30 fadbba
+
+click $pickcolor
+in_window "Select Color"
+picture 10-colour-dialog
+xdotool key Escape
+in_window "Cirrava PAL"
+picture 11-end
 
 click $quit
 wait "$program_id" || fail "the program ended with status $?"

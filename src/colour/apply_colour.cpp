@@ -13,6 +13,8 @@ void ApplyColour::apply() {
         return;
     for (int cell = state_.range_start; cell <= state_.range_end; ++cell)
         scales_[*kind].set_colour(cell, current_colour_.colour());
+    if (kind == ScaleKind::hvc)
+        refresh_preview_();
 }
 
 bool ApplyColour::range_is_chosen() const {

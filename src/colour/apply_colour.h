@@ -7,14 +7,16 @@
 
 namespace cirrava {
 
-// Gives the selected range of the working scale the current colour.
+// Gives the selected range of the working scale the current colour, and on the HVC scale has the
+// preview refreshed.
 class ApplyColour {
 public:
     ApplyColour(const EditorState& state, const RangeSelection::Boxes& boxes,
                 const WorkingScale& working_scale, const CurrentColour& current_colour,
-                const Scales& scales, const Dialogs& dialogs)
+                const Scales& scales, const Dialogs& dialogs, std::function<void()> refresh_preview)
         : state_(state), boxes_(boxes), working_scale_(working_scale),
-          current_colour_(current_colour), scales_(scales), dialogs_(dialogs) {}
+          current_colour_(current_colour), scales_(scales), dialogs_(dialogs),
+          refresh_preview_(std::move(refresh_preview)) {}
 
     // Tells the user how to choose a range when the boxes hold none.
     void apply();
@@ -28,6 +30,7 @@ private:
     const CurrentColour& current_colour_;
     Scales scales_;
     const Dialogs& dialogs_;
+    std::function<void()> refresh_preview_;
 };
 
 } // namespace cirrava

@@ -1,12 +1,23 @@
 #include "palette_files/palette_image.h"
 
+#include "platform/failure.h"
+
+#include <algorithm>
 #include <cstdint>
 
 namespace cirrava {
 
 namespace {
 
-constexpr std::int32_t headers_size = 14 + 40;
+constexpr std::size_t pixel_size = 3;
+
+// The rows of the HVC image, counted from the top.
+constexpr int hvc_rows = 256;
+constexpr int own_colours_row = 127;
+
+// The stored row, counted from the bottom, from which the cells of an HVC file are taken. It is two
+// rows below the cells' own colours: they come back two levels darker than they were written.
+constexpr std::size_t stored_cells_row = 126;
 
 template <class Integer> void append_little_endian(Bytes& bytes, Integer value) {
     for (std::size_t i = 0; i < sizeof value; ++i)
@@ -16,10 +27,10 @@ template <class Integer> void append_little_endian(Bytes& bytes, Integer value) 
 void append_file_header(Bytes& bytes) {
     bytes.push_back('B'); // bfType
     bytes.push_back('M');
-    append_little_endian<std::int32_t>(bytes, 0);            // bfSize: unused without compression
-    append_little_endian<std::int16_t>(bytes, 0);            // bfReserved1
-    append_little_endian<std::int16_t>(bytes, 0);            // bfReserved2
-    append_little_endian<std::int32_t>(bytes, headers_size); // bfOffBits
+    append_little_endian<std::int32_t>(bytes, 0); // bfSize: unused without compression
+    append_little_endian<std::int16_t>(bytes, 0); // bfReserved1
+    append_little_endian<std::int16_t>(bytes, 0); // bfReserved2
+    append_little_endian<std::int32_t>(bytes, static_cast<std::int32_t>(headers_size)); // bfOffBits
 }
 
 void append_info_header(Bytes& bytes, std::int32_t biWidth, std::int32_t biHeight) {
@@ -43,6 +54,60 @@ void append_pixel(Bytes& bytes, Colour color) {
     bytes.push_back(channels.red_byte);
 }
 
+// `color` with `levels` added to each channel, as far as 0 and 255.
+Colour shifted(Colour color, int levels) {
+    const ChannelBytes channels = Data_byte_calc(color);
+    const auto shift = [levels](int value) { return std::clamp(value + levels, 0, 255); };
+    return RGB(shift(channels.red_byte), shift(channels.green_byte), shift(channels.blue_byte));
+}
+
+void shift_cells(std::span<Colour> cells, const BrightnessShift& shift) {
+    const int last = std::min(shift.last, static_cast<int>(cells.size()) - 1);
+    for (int cell = std::max(shift.first, 0); cell <= last; ++cell) {
+        Colour& color = cells[static_cast<std::size_t>(cell)];
+        color = shifted(color, shift.levels);
+    }
+}
+
+// Rows `from` down to `to`, in the order of the file.
+void append_hvc_rows(Bytes& bytes, std::span<const Colour> cells, int from, int to) {
+    for (int row = from; row >= to; --row)
+        for (const Colour color : cells)
+            append_pixel(bytes, shifted(color, own_colours_row - row));
+}
+
+std::int32_t little_endian_at(std::span<const std::uint8_t> bytes, std::size_t offset) {
+    std::uint32_t value = 0;
+    for (std::size_t i = 0; i < sizeof value; ++i)
+        value |= static_cast<std::uint32_t>(bytes[offset + i]) << (8 * i);
+    return static_cast<std::int32_t>(value);
+}
+
+std::optional<ScaleKind> kind_of_size(std::int32_t biWidth, std::int32_t biHeight) {
+    if (biHeight == 1 && biWidth == cell_count(ScaleKind::thermal))
+        return ScaleKind::thermal;
+    if (biHeight == 1 && biWidth == cell_count(ScaleKind::sea))
+        return ScaleKind::sea;
+    if (biHeight == hvc_rows && biWidth == cell_count(ScaleKind::hvc))
+        return ScaleKind::hvc;
+    return std::nullopt;
+}
+
+// Pixels are looked for in steps of 4 bytes after the headers, up to where bfOffBits puts them.
+long pixels_place(std::int32_t bfOffBits) {
+    constexpr auto end_of_headers = static_cast<std::int32_t>(headers_size);
+    return bfOffBits <= end_of_headers ? end_of_headers
+                                       : bfOffBits - (bfOffBits - end_of_headers) % 4;
+}
+
+std::vector<Colour> colours_of(std::span<const std::uint8_t> pixels) {
+    std::vector<Colour> colours;
+    colours.reserve(pixels.size() / pixel_size);
+    for (std::size_t i = 0; i + pixel_size <= pixels.size(); i += pixel_size)
+        colours.push_back(RGB(pixels[i + 2], pixels[i + 1], pixels[i]));
+    return colours;
+}
+
 } // namespace
 
 Bytes row_image(std::span<const Colour> cells) {
@@ -55,6 +120,52 @@ Bytes row_image(std::span<const Colour> cells) {
         append_pixel(bytes, color);
     bytes.resize(headers_size + row_size);
     return bytes;
+}
+
+int brightness_levels(int steps) {
+    if (steps == 0)
+        return 0;
+    return steps > 0 ? -4 * steps - 1 : -4 * steps + 1;
+}
+
+Bytes hvc_image(std::span<Colour> cells, const BrightnessShift& shift) {
+    Bytes bytes;
+    bytes.reserve(headers_size + cells.size() * pixel_size * hvc_rows);
+    append_file_header(bytes);
+    append_info_header(bytes, static_cast<std::int32_t>(cells.size()), hvc_rows);
+    append_hvc_rows(bytes, cells, hvc_rows - 1, own_colours_row + 1);
+    if (shift.levels < 0)
+        shift_cells(cells, shift);
+    append_hvc_rows(bytes, cells, own_colours_row, 0);
+    if (shift.levels > 0)
+        shift_cells(cells, shift);
+    return bytes;
+}
+
+bool is_bitmap(std::span<const std::uint8_t> headers) {
+    return headers.size() >= headers_size && headers[0] == 'B' && headers[1] == 'M';
+}
+
+std::optional<PaletteLayout> palette_layout(std::span<const std::uint8_t> headers) {
+    const std::int32_t bfOffBits = little_endian_at(headers, 10);
+    const std::int32_t biWidth = little_endian_at(headers, 18);
+    const std::int32_t biHeight = little_endian_at(headers, 22);
+    const auto kind = kind_of_size(biWidth, biHeight);
+    if (!kind)
+        return std::nullopt;
+    const std::size_t rows = *kind == ScaleKind::hvc ? stored_cells_row + 1 : 1;
+    const auto cells = static_cast<std::size_t>(cell_count(*kind));
+    return PaletteLayout{*kind, pixels_place(bfOffBits), rows * cells * pixel_size};
+}
+
+std::vector<Colour> palette_colours(const PaletteLayout& layout,
+                                    std::span<const std::uint8_t> pixels) {
+    if (layout.kind != ScaleKind::hvc)
+        return colours_of(pixels);
+    if (pixels.size() < layout.pixels_size)
+        throw Failure{FailureNumber::past_end};
+    const auto row_size = static_cast<std::size_t>(cell_count(ScaleKind::hvc)) * pixel_size;
+    return colours_of(pixels.subspan(stored_cells_row * row_size, row_size));
 }
 
 } // namespace cirrava

@@ -2,15 +2,61 @@
 
 #include "platform/binary_file.h"
 #include "scale_editor/colour.h"
+#include "scale_editor/scale.h"
 
+#include <optional>
 #include <span>
+#include <vector>
 
 // The image format of the palette files: uncompressed 24-bit BMP with the 14-byte file header and
-// the 40-byte information header, rows stored bottom first, pixels as blue, green, red.
+// the 40-byte information header, rows stored bottom first, pixels as blue, green, red. Bytes in,
+// bytes out; what lies around them in the file system is not known here.
 namespace cirrava {
+
+inline constexpr std::size_t headers_size = 14 + 40;
 
 // The image of a one-row palette (Thermal, Sea Surface): one pixel per cell, coldest first, the row
 // padded with zeros to a multiple of 4 bytes.
 Bytes row_image(std::span<const Colour> cells);
+
+// By how many levels a number of steps of the brightness slider changes each channel: steps above 0
+// darken, by 5, 9, 13, 17 and 21 levels for 1 to 5 steps; steps below 0 lighten by as much.
+int brightness_levels(int steps);
+
+// A change of brightness by so many levels per channel, below 0 darker, of the cells `first` to
+// `last`; 0 levels, or a range that holds no cell, changes nothing.
+struct BrightnessShift {
+    int levels = 0;
+    int first = 0;
+    int last = 0;
+};
+
+// The image of the HVC palette: one column per cell, 256 rows. Row 127 from the top has the cells'
+// own colours; each row below is one level darker per channel and each above one level lighter, as
+// far as 0 and 255.
+//
+// `shift` changes the cells while the rows are made, as the user sees it happen in the preview: a
+// darker cell darkens row 127 and all rows above it, a lighter one shows from the next image on.
+Bytes hvc_image(std::span<Colour> cells, const BrightnessShift& shift = {});
+
+// Where the headers of a palette file say that its colours are.
+struct PaletteLayout {
+    ScaleKind kind;
+    long pixels_at = 0;          // bytes from the start of the file; may lie past its end
+    std::size_t pixels_size = 0; // how many bytes from there matter, at the most
+};
+
+// Whether a file that begins with `headers`, its first 54 bytes at the most, is a bitmap at all.
+bool is_bitmap(std::span<const std::uint8_t> headers);
+
+// What the headers of a bitmap say, or nothing when its size is that of none of the three palettes.
+// Nothing but the size and the place of the pixels is looked at.
+std::optional<PaletteLayout> palette_layout(std::span<const std::uint8_t> headers);
+
+// The colours for the first cells of the scale from `pixels`, the bytes that `layout` asks for or
+// as many as the file has. A short one-row palette gives fewer colours; a short HVC palette throws
+// Failure{past_end}.
+std::vector<Colour> palette_colours(const PaletteLayout& layout,
+                                    std::span<const std::uint8_t> pixels);
 
 } // namespace cirrava

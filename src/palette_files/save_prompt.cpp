@@ -26,7 +26,7 @@ void tell_failure(const Dialogs& dialogs, const QString& start, const Failure& f
     if (failure.number == FailureNumber::cancelled)
         dialogs.tell("Operation Cancelled");
     else
-        dialogs.tell(start + QString::number(static_cast<int>(failure.number)) + end);
+        dialogs.tell(failure_message(start, failure, end));
 }
 
 std::filesystem::path file_path(const QString& path) {

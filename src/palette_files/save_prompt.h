@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/common_dialog.h"
-#include "platform/failure.h"
 
 #include <filesystem>
 

@@ -15,7 +15,7 @@ void CommonDialog::ShowSave() {
 }
 
 void CommonDialog::ShowColor() {
-    const auto colour = dialogs_.colour();
+    const auto colour = dialogs_.colour(Color);
     check_cancel(colour.has_value());
     Color = colour.value_or(Color);
 }

@@ -17,7 +17,7 @@ public:
     QString Filter;
     QString InitDir;          // where a dialog opens when FileName has no folder
     bool CancelError = false; // whether a cancel throws Failure{cancelled} or just returns
-    QColor Color;             // after ShowColor: the colour chosen
+    QColor Color = Qt::black; // shown first by ShowColor; after it: the colour chosen
 
     void ShowOpen();
     void ShowSave();

@@ -1,5 +1,6 @@
 #include "platform/controls.h"
 
+#include <QFileInfo>
 #include <QStyleOptionButton>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
@@ -94,9 +95,14 @@ PictureBox::PictureBox() {
     give_sunken_border(*this);
 }
 
-void PictureBox::set_image(const QImage& image) {
+bool PictureBox::show_file(const QString& path) {
+    // Anything but a regular file, such as a pipe, could keep the reader waiting.
+    const QImage image = QFileInfo(path).isFile() ? QImage(path) : QImage();
+    if (image.isNull() && !path.isEmpty())
+        return false;
     image_ = image;
     update();
+    return true;
 }
 
 void PictureBox::paintEvent(QPaintEvent* event) {

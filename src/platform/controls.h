@@ -70,8 +70,9 @@ class PictureBox : public QFrame {
 public:
     PictureBox();
 
-    // A null image clears the box.
-    void set_image(const QImage& image);
+    // Shows the image in the regular file `path`; an empty path clears the box. False when that
+    // file holds no image that can be shown: the box then keeps the image that it has.
+    bool show_file(const QString& path);
     const QImage& image() const { return image_; }
 
 protected:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/failure.h"
+
 #include <QColor>
 #include <QString>
 #include <functional>
@@ -21,7 +23,7 @@ struct FileQuestion {
 struct Dialogs {
     std::function<std::optional<QString>(const FileQuestion&)> open; // the full path chosen
     std::function<std::optional<QString>(const FileQuestion&)> save; // likewise
-    std::function<std::optional<QColor>()> colour;
+    std::function<std::optional<QColor>(const QColor& initial)> colour;
     std::function<bool(const QString& text, const QString& title)> ask; // Yes (the default) or No
     std::function<void(const QString& text)> tell;                      // OK only
 };
@@ -29,6 +31,11 @@ struct Dialogs {
 // The toolkit's own dialogs, in front of `parent`, which must outlive them. The file dialogs let a
 // name pass that does not exist yet, and one that does, and add no suffix.
 Dialogs toolkit_dialogs(QWidget& parent);
+
+// The message for a failure: its number between the texts of the action that failed.
+inline QString failure_message(const QString& start, const Failure& failure, const QString& end) {
+    return start + QString::number(static_cast<int>(failure.number)) + end;
+}
 
 // The title of every message that gives none of its own.
 inline const QString program_title = QStringLiteral("CirravaPal");

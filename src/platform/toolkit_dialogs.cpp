@@ -56,9 +56,9 @@ QMessageBox::StandardButton show_message(QWidget& parent, const QString& title, 
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
-std::optional<QColor> ask_colour(QWidget& parent) {
+std::optional<QColor> ask_colour(QWidget& parent, const QColor& initial) {
     const QColor colour =
-        QColorDialog::getColor(Qt::black, &parent, {}, QColorDialog::DontUseNativeDialog);
+        QColorDialog::getColor(initial, &parent, {}, QColorDialog::DontUseNativeDialog);
     return colour.isValid() ? std::optional(colour) : std::nullopt;
 }
 
@@ -73,7 +73,7 @@ Dialogs toolkit_dialogs(QWidget& parent) {
                 [&parent](const FileQuestion& question) {
                     return OneFileDialog(parent, question, QFileDialog::AcceptSave).ask();
                 },
-            .colour = [&parent] { return ask_colour(parent); },
+            .colour = [&parent](const QColor& initial) { return ask_colour(parent, initial); },
             .ask =
                 [&parent](const QString& text, const QString& title) {
                     return show_message(parent, title, text, QMessageBox::Yes | QMessageBox::No) ==

@@ -32,6 +32,12 @@ void CellArray::set_colour(int cell, Colour colour) {
     update(mark(cell));
 }
 
+void CellArray::set_colours(std::span<const Colour> colours) {
+    const std::size_t count = std::min(colours.size(), colours_.size());
+    std::copy_n(colours.begin(), count, colours_.begin());
+    update();
+}
+
 void CellArray::lay_out(int top, int dpi) {
     top_ = top;
     dpi_ = dpi;

@@ -26,6 +26,9 @@ public:
     // `cell` must be one of the scale's. Repaints it.
     void set_colour(int cell, Colour colour);
 
+    // Sets the first cells, at most as many as the scale has.
+    void set_colours(std::span<const Colour> colours);
+
     // Puts the scale into its parent window, its first row `top` twips from the top, for `dpi`
     // logical dots per inch.
     void lay_out(int top, int dpi);

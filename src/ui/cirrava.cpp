@@ -21,8 +21,7 @@ void Cirrava::load() {
     write_tick_labels(ScaleKind::sea, controls_.SS);
     write_tick_labels(ScaleKind::hvc, controls_.hvc);
     current_colour_.start();
-    controls_.HScroll4.setRange(0, 10);
-    controls_.HScroll4.setValue(5);
+    hvc_palette_.start();
     working_scale_.set(ScaleKind::thermal);
     cdlopen_.InitDir = QCoreApplication::applicationDirPath();
     cdlopen_.FileName = "*.bmp";
@@ -58,6 +57,7 @@ void Cirrava::connect_colour() {
     connect(&c.HScroll1, &NumberBar::valueChanged, this, [this] { current_colour_.red_moved(); });
     connect(&c.HScroll2, &NumberBar::valueChanged, this, [this] { current_colour_.green_moved(); });
     connect(&c.HScroll3, &NumberBar::valueChanged, this, [this] { current_colour_.blue_moved(); });
+    connect(&c.pickcolor, &Button::clicked, this, [this] { colour_picker_.pick(); });
     connect(&c.Command2, &Button::clicked, this, [this] { apply_colour_.apply(); });
 }
 
@@ -67,6 +67,10 @@ void Cirrava::connect_files() {
             [this] { scale_writer_.write_thermal(controls_.thermal_char); });
     connect(&c.sea_command, &Button::clicked, this,
             [this] { scale_writer_.write_sea(controls_.Label2); });
+    connect(&c.hvc_command, &Button::clicked, this, [this] { hvc_palette_.generate(); });
+    connect(&c.HScroll4, &NumberBar::valueChanged, this,
+            [this] { hvc_palette_.brightness_changed(); });
+    connect(&c.Command5, &Button::clicked, this, [this] { palette_loader_.load(); });
     connect(&c.Command6, &Button::clicked, this, [] { QCoreApplication::quit(); });
 }
 

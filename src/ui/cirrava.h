@@ -1,6 +1,9 @@
 #pragma once
 
 #include "colour/apply_colour.h"
+#include "colour/colour_picker.h"
+#include "palette_files/hvc_palette.h"
+#include "palette_files/palette_loader.h"
 #include "palette_files/scale_writer.h"
 #include "ui/cirrava_controls.h"
 
@@ -35,8 +38,15 @@ private:
     WorkingScale working_scale_{working_scale_controls()};
     RangeSelection range_selection_{state_, working_scale_, boxes()};
     CurrentColour current_colour_{current_colour_controls()};
-    ApplyColour apply_colour_{state_, boxes(), working_scale_, current_colour_, scales(), dialogs_};
+    ColourPicker colour_picker_{cdlopen_, dialogs_, current_colour_};
+    ApplyColour apply_colour_{
+        state_, boxes(), working_scale_, current_colour_, scales(), dialogs_, [this] {
+            hvc_palette_.refresh_preview();
+        }};
     ScaleWriter scale_writer_{file_desk_};
+    HvcPalette hvc_palette_{file_desk_, state_, controls_.Label3, controls_.Picture1,
+                            controls_.HScroll4};
+    PaletteLoader palette_loader_{file_desk_, scales(), controls_.Picture1};
 };
 
 } // namespace cirrava

@@ -30,7 +30,7 @@ struct Answers {
         };
         return {.open = choose_file,
                 .save = choose_file,
-                .colour = [this] { return colour; },
+                .colour = [this](const QColor&) { return colour; },
                 .ask =
                     [this](const QString& text, const QString&) {
                         prompts << text;

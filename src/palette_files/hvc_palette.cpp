@@ -1,0 +1,72 @@
+#include "palette_files/hvc_palette.h"
+
+namespace cirrava {
+
+namespace {
+
+// In the current directory.
+const QString preview_file = QStringLiteral("~~temphvc.bmp");
+
+// Values of `fromwhere`; every other is a number of slider steps, above 0 darker.
+constexpr int preview_only = 0;
+constexpr int final_file = 25;
+
+constexpr int slider_rest = 5;
+
+} // namespace
+
+void HvcPalette::generate() {
+    create_hvc_file(final_file);
+    Picture1_.show_file(desk_.out_path);
+}
+
+void HvcPalette::refresh_preview() {
+    create_hvc_file(preview_only);
+    Picture1_.show_file(preview_file);
+}
+
+void HvcPalette::start() {
+    HScroll4_.setTracking(false); // a drag counts once, at its end
+    HScroll4_.setRange(0, 2 * slider_rest);
+    HScroll4_.setValue(slider_rest);
+}
+
+void HvcPalette::brightness_changed() {
+    const int steps = slider_rest - HScroll4_.value();
+    if (steps == 0)
+        return;
+    const bool had_focus = HScroll4_.hasFocus(); // which a disabled control loses
+    HScroll4_.setEnabled(false);
+    create_hvc_file(steps);
+    refresh_preview();
+    HScroll4_.setValue(slider_rest);
+    HScroll4_.setEnabled(true);
+    if (had_focus)
+        HScroll4_.setFocus();
+}
+
+void HvcPalette::create_hvc_file(int fromwhere) {
+    try {
+        if (fromwhere != final_file)
+            desk_.out_path = preview_file;
+        else if (!choose_output(desk_, {.file_name = "hvc.bmp", .title = "Create HVC Palette"}))
+            return;
+        BinaryFile file(file_path(desk_.out_path), FileAccess::read_write);
+        file.write(build_image(fromwhere));
+        file.close();
+    } catch (const Failure& failure) {
+        tell_failure(desk_.dialogs, "Error # ", failure, " A problem occured during file creation");
+    }
+}
+
+Bytes HvcPalette::build_image(int fromwhere) {
+    std::vector<Colour> cells(Label3_.colours().begin(), Label3_.colours().end());
+    const int steps = fromwhere == final_file ? 0 : fromwhere;
+    Bytes image = hvc_image(cells, {.levels = brightness_levels(steps),
+                                    .first = state_.range_start,
+                                    .last = state_.range_end});
+    Label3_.set_colours(cells);
+    return image;
+}
+
+} // namespace cirrava
