@@ -2,9 +2,11 @@
 
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTreeView>
 
 namespace cirrava {
 
@@ -21,6 +23,8 @@ public:
         setFileMode(AnyFile);
         setAcceptMode(mode);
         selectFile(question.name);
+        if (auto* const files = findChild<QTreeView*>("treeView"))
+            files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     }
 
     std::optional<QString> ask() {

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QPalette>
 #include <QProxyStyle>
-#include <algorithm>
 
 namespace cirrava {
 
@@ -77,8 +76,8 @@ void fit(QWidget& control, const QString& caption, const QRect& box) {
         const QFontMetrics metrics = control.fontMetrics();
         const QRect endless(0, 0, box.width(), QWIDGETSIZE_MAX);
         const QSize room = metrics.boundingRect(endless, Qt::TextWordWrap, caption).size();
-        return room.width() <= box.width() &&
-               room.height() <= std::max(box.height(), metrics.height());
+        const bool one_line = room.height() < 2 * metrics.height();
+        return room.width() <= box.width() && (one_line || room.height() <= box.height());
     };
     QFont font = control.font();
     for (int percent = 98; !fits() && percent >= narrowest; percent -= 2) {

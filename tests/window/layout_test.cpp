@@ -32,6 +32,8 @@ TEST_F(Layout, EveryCaptionFitsItsBox) {
             return;
         const QSize room = room_for(caption.trimmed(), control, box);
         EXPECT_LE(room.width(), box.width()) << caption.toStdString();
+        EXPECT_GE(control.font().stretch() + 100 * (control.font().stretch() == 0), 90)
+            << caption.toStdString() << " is narrower than it needs to be";
         EXPECT_LE(room.height(), box.height()) << caption.toStdString();
     };
     find<QLabel>("Label15").setText("255");

@@ -175,7 +175,8 @@ TEST_F(Loading, FilesWrittenHereOpenElsewhereWithTheSamePixels) {
     const struct {
         Bytes bytes;
         int own_colours_row;
-    } files[]{{row_image(rainbow(320)), 0}, {row_image(rainbow(250)), 0}, {hvc_image(hvc_cells), 127}};
+    } files[]{
+        {row_image(rainbow(320)), 0}, {row_image(rainbow(250)), 0}, {hvc_image(hvc_cells), 127}};
     for (const auto& [bytes, own_colours_row] : files) {
         const QString file = make("written.bmp", bytes);
         const QImage image = QImage(file).convertToFormat(QImage::Format_RGB888);
