@@ -73,6 +73,11 @@ void NumberBar::paintEvent(QPaintEvent* event) {
     paint_focus(painter, *this, palette().color(QPalette::Window));
 }
 
+Line::Line() {
+    setBackgroundRole(QPalette::WindowText);
+    setAutoFillBackground(true);
+}
+
 Swatch::Swatch() {
     give_sunken_border(*this);
 }

@@ -40,11 +40,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-// A horizontal line of one pixel in the window's text colour.
-class Line : public QFrame {
+// A line, or bar, as wide and high as its place and filled with its text colour.
+class Line : public QWidget {
     Q_OBJECT
 public:
-    Line() { setFrameStyle(QFrame::HLine | QFrame::Plain); }
+    Line();
 };
 
 // A box with a sunken border that shows one colour.

@@ -2,8 +2,8 @@
 
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTreeView>
@@ -53,8 +53,9 @@ QMessageBox::StandardButton show_message(QWidget& parent, const QString& title, 
                                          QMessageBox::StandardButtons buttons) {
     QMessageBox box(QMessageBox::NoIcon, title, text, buttons, &parent);
     box.setTextFormat(Qt::PlainText);
-    if (auto* const label = box.findChild<QLabel*>("qt_msgbox_label")) // wide enough for the title
-        label->setMinimumWidth(2 * box.fontMetrics().horizontalAdvance(title));
+    if (auto* const grid = qobject_cast<QGridLayout*>(box.layout())) // wide enough for the title
+        grid->addItem(new QSpacerItem(2 * box.fontMetrics().horizontalAdvance(title), 0),
+                      grid->rowCount(), 0, 1, grid->columnCount());
     if (buttons.testFlag(QMessageBox::Yes))
         box.setDefaultButton(QMessageBox::Yes);
     return static_cast<QMessageBox::StandardButton>(box.exec());

@@ -1,7 +1,9 @@
 #include "ui/cirrava.h"
 
 #include "scale_editor/tick_labels.h"
+#include "ui/about_window.h"
 #include "ui/cirrava_layout.h"
+#include "ui/help_windows.h"
 
 #include <QCoreApplication>
 
@@ -12,6 +14,7 @@ Cirrava::Cirrava(Dialogs dialogs) : dialogs_(std::move(dialogs)) {
     connect_scales();
     connect_colour();
     connect_files();
+    connect_windows();
     load();
     fit_captions(*this);
 }
@@ -71,7 +74,14 @@ void Cirrava::connect_files() {
     connect(&c.HScroll4, &NumberBar::valueChanged, this,
             [this] { hvc_palette_.brightness_changed(); });
     connect(&c.Command5, &Button::clicked, this, [this] { palette_loader_.load(); });
-    connect(&c.Command6, &Button::clicked, this, [] { QCoreApplication::quit(); });
+}
+
+void Cirrava::connect_windows() {
+    auto& c = controls_;
+    connect(&c.Command3, &Button::clicked, this, [this] { show_frmAbout(*this); });
+    connect(&c.Command4, &Button::clicked, this, [this] { show_palhelp(*this); });
+    connect(&c.hvc_help, &Button::clicked, this, [this] { show_hvchelp(*this); });
+    connect(&c.Command6, &Button::clicked, this, [] { QCoreApplication::exit(0); });
 }
 
 RangeSelection::Boxes Cirrava::boxes() {

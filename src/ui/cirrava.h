@@ -22,6 +22,7 @@ private:
     void connect_scales();
     void connect_colour();
     void connect_files();
+    void connect_windows();
 
     Scales scales() { return {controls_.thermal_char, controls_.Label2, controls_.Label3}; }
     RangeSelection::Boxes boxes();

@@ -2,8 +2,7 @@
 
 #include "scale_editor/qt_values.h"
 #include "ui/cirrava_tables.h"
-
-#include <QIcon>
+#include "ui/placing.h"
 
 namespace cirrava {
 
@@ -11,8 +10,7 @@ namespace {
 
 class Builder {
 public:
-    Builder(CirravaControls& controls, QWidget& window)
-        : controls_(controls), window_(window), dpi_(window.logicalDpiX()) {}
+    Builder(CirravaControls& controls, QWidget& window) : controls_(controls), window_(window) {}
 
     template <class Control, std::size_t count>
     void place(const tables::Row<Control> (&rows)[count]) {
@@ -53,7 +51,7 @@ public:
             cells.setParent(&window_);
             cells.setObjectName(row.name);
             cells.setAccessibleName(row.spoken);
-            cells.lay_out(row.top, dpi_);
+            cells.lay_out(row.top, window_.logicalDpiX());
             cells.raise(); // above the temperatures between its rows
         }
     }
@@ -63,10 +61,8 @@ private:
         return QString("%1(%2)").arg(array).arg(index);
     }
 
-    void place(QWidget& control, const QString& name, const Place& place) {
-        control.setParent(&window_);
-        control.setObjectName(name);
-        control.setGeometry(to_pixels(place, dpi_));
+    void place(QWidget& control, const QString& name, const Place& box) {
+        cirrava::place(control, window_, name, box);
     }
 
     static void finish(QLabel& label, const char* caption, const Look& look) {
@@ -95,15 +91,7 @@ private:
 
     CirravaControls& controls_;
     QWidget& window_;
-    int dpi_;
 };
-
-QIcon program_icon() {
-    QIcon icon;
-    for (const int size : {16, 32, 48, 64, 128, 256})
-        icon.addFile(QString(":/icon-%1.png").arg(size), {size, size});
-    return icon;
-}
 
 void set_tab_order(CirravaControls& c) {
     QWidget* last = &c.Text1;
@@ -127,12 +115,8 @@ void set_tab_order(CirravaControls& c) {
 } // namespace
 
 void lay_out(CirravaControls& controls, QWidget& window) {
-    window.setWindowTitle("Cirrava PAL");
+    fix_frame(window, "Cirrava PAL", tables::client_area);
     window.setWindowIcon(program_icon());
-    window.setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
-                          Qt::MSWindowsFixedSizeDialogHint);
-    window.setFixedSize(to_pixels(tables::client_area, window.logicalDpiX()).size());
 
     Builder builder(controls, window);
     builder.place(tables::labels);
@@ -149,7 +133,7 @@ void lay_out(CirravaControls& controls, QWidget& window) {
     builder.place_presets();
     builder.place_scales();
 
-    controls.Image1.setPixmap(QPixmap(":/picture.png"));
+    controls.Image1.setPixmap(program_picture(window.devicePixelRatioF()));
     controls.Label1.setIndent(controls.Label1.fontMetrics().averageCharWidth() /
                               2); // off the picture
     controls.Command2.setToolTip("Click to apply color to range selected");

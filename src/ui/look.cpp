@@ -11,6 +11,19 @@ namespace {
 // The named families where present, else near equivalents.
 const QStringList sans_families{"MS Sans Serif", "Liberation Sans", "Arial", "DejaVu Sans"};
 const QStringList narrow_families{"Arial Narrow", "Liberation Sans Narrow", "Arial", "DejaVu Sans"};
+const QStringList arial_families{"Arial", "Liberation Sans", "DejaVu Sans"};
+
+const QStringList& families(FontFamily family) {
+    switch (family) {
+    case FontFamily::narrow:
+        return narrow_families;
+    case FontFamily::arial:
+        return arial_families;
+    case FontFamily::sans:
+        break;
+    }
+    return sans_families;
+}
 
 class ProgramStyle : public QProxyStyle {
 public:
@@ -51,7 +64,7 @@ QPalette light_palette() {
 
 QFont to_font(const FontLook& look) {
     QFont font;
-    font.setFamilies(look.family == FontFamily::narrow ? narrow_families : sans_families);
+    font.setFamilies(families(look.family));
     font.setPointSizeF(look.points);
     font.setBold(look.bold);
     font.setUnderline(look.underlined);
@@ -84,6 +97,17 @@ void fit(QWidget& control, const QString& caption, const QRect& box) {
         font.setStretch(percent);
         control.setFont(font);
     }
+}
+
+QPixmap program_picture(double scale) {
+    return QIcon(":/picture.png").pixmap(QSize(72, 96), scale);
+}
+
+QIcon program_icon() {
+    QIcon icon;
+    for (const int size : {16, 32, 48, 64, 128, 256})
+        icon.addFile(QString(":/icon-%1.png").arg(size), {size, size});
+    return icon;
 }
 
 void dress(QApplication& application) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFont>
+#include <QIcon>
 #include <QWidget>
 #include <optional>
 
@@ -9,7 +10,7 @@ class QApplication;
 // How the program looks, on every desktop the same: colours are judged against a neutral ground.
 namespace cirrava {
 
-enum class FontFamily { sans, narrow };
+enum class FontFamily { sans, narrow, arial };
 
 struct FontLook {
     FontFamily family = FontFamily::sans;
@@ -34,6 +35,11 @@ void dress(QWidget& control, const Look& look);
 // wrapped where the box has room for several lines. Fonts differ in width from one machine to the
 // next; places do not.
 void fit(QWidget& control, const QString& caption, const QRect& box);
+
+// The satellite above the earth: 72 x 96 pixels, sharp at `scale` device pixels to a pixel.
+QPixmap program_picture(double scale);
+
+QIcon program_icon();
 
 // The Fusion style with one fixed light palette and the standard font. Before any window is made.
 void dress(QApplication& application);

@@ -4,7 +4,6 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTimer>
 
 namespace cirrava {
 
@@ -13,16 +12,6 @@ namespace {
 // The toolkit's real dialogs.
 class RealDialogs : public testing::Test {
 protected:
-    // Does `action` in the next dialog of type `Dialog`, as soon as it has the keyboard.
-    template <class Dialog> static void in_next(std::function<void(Dialog&)> action) {
-        QTimer::singleShot(0, [action] {
-            auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
-            action(*dialog);
-        });
-    }
-
     static void type_name(QFileDialog& dialog, const QString& name) {
         auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
         ASSERT_NE(edit, nullptr);
@@ -74,6 +63,8 @@ TEST_F(RealDialogs, MessagesShowPlainTextAndYesIsTheDefault) {
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
         EXPECT_EQ(box.windowTitle(), "Ready to create");
         EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::Yes));
+        const auto* const label = box.findChild<QLabel*>("qt_msgbox_label");
+        EXPECT_GE(label->width(), label->fontMetrics().horizontalAdvance(text));
         QTest::keyClick(&box, Qt::Key_Return);
     });
     EXPECT_TRUE(dialogs.ask(text, "Ready to create"));

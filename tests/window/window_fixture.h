@@ -2,8 +2,10 @@
 
 #include "ui/cirrava.h"
 
+#include <QApplication>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 inline void PrintTo(const QString& text, std::ostream* out) {
@@ -39,6 +41,16 @@ struct Answers {
                 .tell = [this](const QString& text) { told << text; }};
     }
 };
+
+// Does `action` in the next modal window of type `Dialog`, as soon as it has the keyboard.
+template <class Dialog> void in_next(std::function<void(Dialog&)> action) {
+    QTimer::singleShot(0, [action] {
+        auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == dialog; }));
+        action(*dialog);
+    });
+}
 
 // The real window on the offscreen platform, worked by real mouse and key events.
 class WindowTest : public testing::Test {

@@ -1,0 +1,129 @@
+#include "ui/about_window.h"
+
+#include "platform/controls.h"
+#include "platform/dialogs.h"
+#include "ui/look.h"
+#include "ui/placing.h"
+#include "ui/system_info.h"
+
+#include <QDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QProcess>
+
+namespace cirrava {
+
+namespace {
+
+constexpr int major_version = 2;
+constexpr int minor_version = 1;
+constexpr int revision = 0;
+
+const char* const description =
+    "This application can be used to generate 24 bit color palette files which can be used by "
+    "Cirrava to produce color enhancements as per your requirements,  in Thermal, HVC and Sea "
+    "Surface temperature categories.\n\n"
+    "Please click the \"How to use\" button to learn more.\n\n"
+    "Developed by the Cirrava PAL developers.";
+
+const char* const disclaimer =
+    "Warning: this software comes with the usual warnings. It was developed as a hobby in free "
+    "time "
+    "and tested reasonably well. Please report faults, and send a note of appreciation if you like "
+    "it. To communicate, please use the decoder's user group. This is free software that comes "
+    "with "
+    "no warranty or claim.\n\n"
+    "Good luck";
+
+class AboutWindow : public QDialog {
+public:
+    explicit AboutWindow(QWidget& parent) : QDialog(&parent) {
+        setObjectName("frmAbout");
+        fix_frame(*this, "About " + program_title, {0, 0, 5685, 5190});
+        setWindowIcon(parent.windowIcon());
+        move_to_its_place();
+        place_picture();
+        place_texts();
+        place_lines();
+        place_buttons();
+    }
+
+private:
+    void move_to_its_place() {
+        const Place on_screen{2340, 1935, 5685, 5190};
+        setGeometry(to_pixels(on_screen, logicalDpiX())); // of the client area, without the frame
+    }
+
+    void place_picture() {
+        place(picIcon_, *this, "picIcon", {0, 0, 1140, 1500});
+        picIcon_.setFrameStyle(QFrame::Panel | QFrame::Sunken);
+        picIcon_.setLineWidth(2);
+        picIcon_.setPixmap(program_picture(devicePixelRatioF()));
+    }
+
+    void place_texts() {
+        place_text(lblTitle_, "lblTitle", {1560, 240, 2565, 480}, program_title,
+                   {.text = qRgb(0, 0, 255), .font = {.points = 18}});
+        place_text(lblVersion_, "lblVersion", {1560, 840, 1245, 225},
+                   QString("Version %1.%2.%3").arg(major_version).arg(minor_version).arg(revision),
+                   {});
+        place_text(Label1_, "Label1", {3000, 840, 1365, 225}, "Quillmark", {});
+        place_text(lblDescription_, "lblDescription", {1560, 1125, 3885, 1770}, description,
+                   {.text = qRgb(0, 0, 0)});
+        place_text(lblDisclaimer_, "lblDisclaimer", {120, 3360, 3870, 1665}, disclaimer,
+                   {.text = qRgb(0, 0, 0)});
+    }
+
+    void place_text(QLabel& label, const QString& name, const Place& box, const QString& text,
+                    const Look& look) {
+        place(label, *this, name, box);
+        dress(label, look);
+        label.setTextFormat(Qt::PlainText);
+        label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        label.setWordWrap(true);
+        label.setText(text);
+        fit(label, text, label.contentsRect());
+    }
+
+    // Together they look etched into the window.
+    void place_lines() {
+        place(dark_line_, *this, "Line1(1)", {90, 3120, 5564, 15});
+        dress(dark_line_, {.text = qRgb(128, 128, 128)});
+        place(light_line_, *this, "Line1(0)", {120, 3240, 5549, 30});
+        dress(light_line_, {.text = qRgb(255, 255, 255)});
+    }
+
+    void place_buttons() {
+        place(cmdOK_, *this, "cmdOK", {4320, 4560, 1260, 345});
+        cmdOK_.setText("Exit ");
+        cmdOK_.setDefault(true);
+        connect(&cmdOK_, &Button::clicked, this, &QDialog::accept);
+        place(cmdSysInfo_, *this, "cmdSysInfo", {4320, 3600, 1245, 705});
+        cmdSysInfo_.setText("System Info");
+        connect(&cmdSysInfo_, &Button::clicked, this, [this] { start_system_info(); });
+        setTabOrder(&cmdOK_, &cmdSysInfo_);
+        cmdOK_.setFocus();
+    }
+
+    void start_system_info() {
+        const auto start = [](const std::filesystem::path& program) {
+            return QProcess::startDetached(QFileInfo(program).filePath(), {});
+        };
+        const auto tell_unavailable = [this] {
+            toolkit_dialogs(*this).tell("System Information Is Unavailable At This Time");
+        };
+        StartSysInfo(*system_registry(), {start, tell_unavailable});
+    }
+
+    QLabel picIcon_, lblTitle_, lblVersion_, Label1_, lblDescription_, lblDisclaimer_;
+    Line dark_line_, light_line_;
+    Button cmdOK_, cmdSysInfo_;
+};
+
+} // namespace
+
+void show_frmAbout(QWidget& parent) {
+    AboutWindow(parent).exec();
+}
+
+} // namespace cirrava

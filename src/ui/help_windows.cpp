@@ -1,0 +1,89 @@
+#include "ui/help_windows.h"
+
+#include "platform/controls.h"
+#include "ui/help_texts.h"
+#include "ui/look.h"
+#include "ui/placing.h"
+
+#include <QDialog>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPlainTextEdit>
+
+namespace cirrava {
+
+namespace {
+
+const QColor paper(255, 192, 128);
+const QColor dark_green(0, 64, 0);
+const QColor green(0, 128, 0);
+
+// A window with a text to read and a button that closes it.
+class HelpWindow : public QDialog {
+public:
+    HelpWindow(QWidget& parent, const QString& name, const QString& title, const Place& client_area)
+        : QDialog(&parent) {
+        setObjectName(name);
+        fix_frame(*this, title, client_area);
+        connect(&Command1_, &Button::clicked, this, &QDialog::accept);
+    }
+
+    void place_text(const char* text, const Place& box, const QColor& ink, const FontLook& font) {
+        place(Text1_, *this, "Text1", box);
+        Text1_.setFont(to_font(font));
+        QPalette palette = Text1_.palette();
+        palette.setColor(QPalette::Base, paper);
+        palette.setColor(QPalette::Text, ink);
+        Text1_.setPalette(palette);
+        Text1_.setReadOnly(true);
+        Text1_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        Text1_.setTabChangesFocus(true);
+        Text1_.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        Text1_.setAccessibleName(windowTitle());
+        Text1_.setPlainText(text);
+        Text1_.setFocus();
+    }
+
+    void place_button(const char* caption, const Place& box, const FontLook& font) {
+        place(Command1_, *this, "Command1", box);
+        dress(Command1_, {.font = font});
+        Command1_.setText(caption);
+        Command1_.setAutoDefault(false);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        QWidget::keyPressEvent(event); // neither Esc nor Enter closes the window
+    }
+
+private:
+    QPlainTextEdit Text1_;
+    Button Command1_;
+};
+
+} // namespace
+
+void show_palhelp(QWidget& parent) {
+    HelpWindow window(parent, "palhelp", "Cirrava PAL How To", {0, 0, 10170, 9255});
+    window.setWindowIcon(parent.windowIcon());
+    window.place_text(how_to_use_text, {240, 240, 9375, 8175}, dark_green,
+                      {.family = FontFamily::arial, .points = 12});
+    window.place_button("Exit", {3600, 8520, 2295, 615}, {});
+    window.exec();
+}
+
+void show_hvchelp(QWidget& parent) {
+    HelpWindow window(parent, "hvchelp", "About HVC Palette", {0, 0, 4680, 6915});
+    QLabel Label1;
+    place(Label1, window, "Label1", {120, 240, 4335, 375});
+    dress(Label1,
+          {.font = {
+               .family = FontFamily::narrow, .points = 14.25, .bold = true, .underlined = true}});
+    Label1.setText("Information about HVC Palette");
+    window.place_text(hvc_text, {120, 840, 4335, 5175}, green,
+                      {.family = FontFamily::arial, .points = 9.75});
+    window.place_button("QUIT", {1320, 6240, 1935, 495}, {.family = FontFamily::narrow});
+    window.exec();
+}
+
+} // namespace cirrava

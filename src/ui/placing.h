@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/twips.h"
+
+#include <QWidget>
+
+namespace cirrava {
+
+// Puts `control` into `window` under its design name. `place` is in twips.
+void place(QWidget& control, QWidget& window, const QString& name, const Place& place);
+
+// Makes `window` one that cannot be resized, with a close box and no other title-bar button, its
+// client area as wide and high as `client_area`, in twips.
+void fix_frame(QWidget& window, const QString& title, const Place& client_area);
+
+} // namespace cirrava
