@@ -32,7 +32,7 @@ open_screen() {
     DISPLAY=:$(<"$number")
     export DISPLAY
     rm "$number"
-    openbox &
+    openbox 2>/dev/null &
     started+=($!)
     wait_until window_manager_runs
 }

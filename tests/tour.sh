@@ -28,6 +28,9 @@ lighter="11440 6120"
 preview_of_cell_30="13080 4335" # in row 127
 pickcolor="10980 8050"
 load="5500 9000"
+about="900 9000"
+how_to_use="3100 9000"
+hvc_help="5300 6060"
 quit="12800 9000"
 
 # save_as BUTTON DIALOG-TITLE FILE: up to the prompt.
@@ -136,7 +139,19 @@ in_window "Select Color"
 picture 10-colour-dialog
 xdotool key Escape
 in_window "Cirrava PAL"
-picture 11-end
+
+# look_into BUTTON TITLE PICTURE KEYS: opens a window, takes its picture, closes it with the keys.
+look_into() {
+    click $1
+    in_window "$2"
+    picture "$3"
+    xdotool key $4
+    in_window "Cirrava PAL"
+}
+look_into "$how_to_use" "Cirrava PAL How To" 11-how-to-use "Tab space"
+look_into "$hvc_help" "About HVC Palette" 12-about-hvc "Tab space"
+look_into "$about" "About CirravaPal" 13-about "Escape"
+picture 14-end
 
 click $quit
 wait "$program_id" || fail "the program ended with status $?"

@@ -13,22 +13,28 @@ constexpr long more_data = 234;
 
 } // namespace
 
+std::size_t DataRegistry::find(const std::string& path) const {
+    const auto entry = std::find_if(entries_.begin(), entries_.end(),
+                                    [&](const Entry& candidate) { return candidate.path == path; });
+    return static_cast<std::size_t>(entry - entries_.begin());
+}
+
 void DataRegistry::add(const std::string& path, const std::string& name, const Value& value) {
-    keys_[path][name] = value;
+    const std::size_t place = find(path);
+    if (place == entries_.size())
+        entries_.push_back({path, {}});
+    entries_[place].values[name] = value;
 }
 
 long DataRegistry::RegOpenKeyExA(std::uint32_t root, const std::string& path, std::uint32_t,
                                  Key& key) const {
-    const auto found = keys_.find(path);
-    if (root != local_machine || found == keys_.end())
-        return file_not_found;
-    key = reinterpret_cast<Key>(&found->second);
-    return success;
+    key = find(path);
+    return root == local_machine && key < entries_.size() ? success : file_not_found;
 }
 
 long DataRegistry::RegQueryValueExA(Key key, const std::string& name, std::uint32_t& type,
                                     std::span<char> data, std::uint32_t& size) const {
-    const auto& values = *reinterpret_cast<const std::map<std::string, Value>*>(key);
+    const auto& values = entries_.at(key).values;
     const auto found = values.find(name);
     if (found == values.end())
         return file_not_found;

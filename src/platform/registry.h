@@ -5,6 +5,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace cirrava {
 
@@ -50,7 +51,13 @@ public:
     void RegCloseKey(Key key) const override;
 
 private:
-    std::map<std::string, std::map<std::string, Value>> keys_;
+    struct Entry {
+        std::string path;
+        std::map<std::string, Value> values;
+    };
+    std::size_t find(const std::string& path) const; // the number of entries when there is none
+
+    std::vector<Entry> entries_; // a key is the place of its entry
 };
 
 // The registry of this machine. One implementation per system: registry_posix.cpp,

@@ -42,7 +42,7 @@ protected:
         if (QFileInfo(quoted_).isDir())
             setDirectory(quoted_);
         else
-            QDialog::accept();
+            done(Accepted);
     }
 
 private:
