@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# Takes the pictures of the README from the built program. pictures.sh PROGRAM
+set -euo pipefail
+program=$(realpath "$1")
+docs=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+folder=$(mktemp --directory)
+. "$docs/../tests/screen.sh"
+. "$docs/../tests/places.sh"
+
+# palette WIDTH HEIGHT COLOURS...: a smooth run through the colours, coldest first.
+palette() {
+    local size="$1x$2!"
+    shift 2
+    convert "${@/#/xc:}" +append -filter triangle -resize "$size" BMP3:-
+}
+
+# load_palette FILE LAST-CELL COLOUR: and waits until that cell shows it.
+load_palette() {
+    click $load
+    in_window "Read and Load palette"
+    xdotool type --delay 0 "$folder/$1"
+    xdotool key Return
+    in_window "Cirrava PAL"
+    see $2 "$3"
+}
+
+take() { import -window "$window" -strip "$docs/$1.png"; }
+
+cd "$folder"
+palette 320 1 '#fff' '#e8d8ff' '#b060d0' '#5030b0' '#2060e0' '#20b0f0' '#40d8c0' '#40b040' \
+    '#c8d840' '#f8e040' '#f09030' '#d03020' '#601010' >thermal.bmp
+palette 250 1 '#301060' '#4030c0' '#2080f0' '#30d0e0' '#40c870' '#d0e040' '#f8b030' '#e04020' \
+    '#801020' >sea.bmp
+palette 100 256 '#e0e0f0' '#a0b8e8' '#5088d0' '#40a880' '#60a040' '#b8a050' '#c87840' >hvc.bmp
+
+open_screen
+"$program" &
+started+=($!)
+in_window "Cirrava PAL"
+window=$(xdotool getactivewindow)
+load_palette thermal.bmp "$(thermal_cell 319)" 601010
+load_palette sea.bmp "$(sea_cell 249)" 801020
+load_palette hvc.bmp "$(hvc_cell 99)" c87840
+# A double click and Apply give a cell the colour it has, and bring the preview up to date.
+click $(hvc_cell 44)
+click $(hvc_cell 44)
+click $(hvc_cell 44) 3
+click $apply
+click $(thermal_cell 220)
+click $(thermal_cell 259) 3
+click $preset_9
+click $apply
+see $swatch ff0000
+see $(thermal_cell 259) ff0000
+point_at 9000 6900
+take main-window
