@@ -2,10 +2,13 @@
 #include "ui/look.h"
 
 #include <QApplication>
+#include <QSettings>
 
 int main(int, char* argv[]) {
     int only_the_name = 1; // the command line is not read, not even by the toolkit
     QApplication::setDesktopSettingsAware(false);
+    // Nothing is kept between runs: the toolkit's dialogs find no place for their histories.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ":/");
     QApplication application(only_the_name, argv);
     cirrava::dress(application);
     cirrava::Cirrava window;

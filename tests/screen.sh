@@ -26,7 +26,8 @@ window_manager_runs() { [[ $(xprop -root _NET_SUPPORTING_WM_CHECK) == *0x* ]]; }
 open_screen() {
     local number="$folder/.display"
     : >"$number"
-    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$number" 2>/dev/null &
+    # Without -noreset it starts anew when its last client leaves, and turns others away meanwhile.
+    Xvfb -noreset -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$number" 2>/dev/null &
     started+=($!)
     wait_until test -s "$number"
     DISPLAY=:$(<"$number")

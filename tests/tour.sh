@@ -27,7 +27,8 @@ answer_message() {
 
 open_screen
 cd "$folder"
-"$program" &
+mkdir -p home
+env --unset=XDG_CONFIG_HOME HOME="$folder/home" "$program" &
 program_id=$!
 started+=("$program_id")
 in_window "Cirrava PAL"
@@ -131,5 +132,6 @@ picture 14-end
 
 click $quit
 wait "$program_id" || fail "the program ended with status $?"
-rm expected
+[[ ! -e home/.config ]] || fail "the program has left settings behind"
+rm -r expected home
 echo "The tour is complete."

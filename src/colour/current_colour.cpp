@@ -2,8 +2,6 @@
 
 #include "scale_editor/qt_values.h"
 
-#include <limits>
-
 namespace cirrava {
 
 namespace {
@@ -16,7 +14,7 @@ void show_position(QLabel& readout, const NumberBar& slider) {
 
 void CurrentColour::start() {
     for (NumberBar* slider : {&controls_.HScroll1, &controls_.HScroll2, &controls_.HScroll3})
-        slider->setRange(0, std::numeric_limits<std::uint8_t>::max());
+        slider->setRange(0, 255);
     red_moved();
     green_moved();
     blue_moved();

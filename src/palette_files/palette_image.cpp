@@ -143,10 +143,12 @@ Bytes hvc_image(std::span<Colour> cells, const BrightnessShift& shift) {
 }
 
 bool is_bitmap(std::span<const std::uint8_t> headers) {
-    return headers.size() >= headers_size && headers[0] == 'B' && headers[1] == 'M';
+    return headers.size() >= 2 && headers[0] == 'B' && headers[1] == 'M';
 }
 
 std::optional<PaletteLayout> palette_layout(std::span<const std::uint8_t> headers) {
+    if (headers.size() < headers_size)
+        return std::nullopt;
     const std::int32_t bfOffBits = little_endian_at(headers, 10);
     const std::int32_t biWidth = little_endian_at(headers, 18);
     const std::int32_t biHeight = little_endian_at(headers, 22);

@@ -35,8 +35,8 @@ struct BrightnessShift {
 // own colours; each row below is one level darker per channel and each above one level lighter, as
 // far as 0 and 255.
 //
-// `shift` changes the cells while the rows are made, as the user sees it happen in the preview: a
-// darker cell darkens row 127 and all rows above it, a lighter one shows from the next image on.
+// `shift` changes the cells while the rows are made: a darker cell darkens row 127 and all rows
+// above it, a lighter one shows from the next image on.
 Bytes hvc_image(std::span<Colour> cells, const BrightnessShift& shift = {});
 
 // Where the headers of a palette file say that its colours are.
@@ -46,11 +46,12 @@ struct PaletteLayout {
     std::size_t pixels_size = 0; // how many bytes from there matter, at the most
 };
 
-// Whether a file that begins with `headers`, its first 54 bytes at the most, is a bitmap at all.
+// Whether a file that begins with `headers` claims to be a bitmap at all.
 bool is_bitmap(std::span<const std::uint8_t> headers);
 
-// What the headers of a bitmap say, or nothing when its size is that of none of the three palettes.
-// Nothing but the size and the place of the pixels is looked at.
+// What `headers`, the first 54 bytes of a bitmap, say; nothing when they are incomplete or the
+// bitmap's size is that of none of the three palettes. Nothing but the size and the place of the
+// pixels is looked at.
 std::optional<PaletteLayout> palette_layout(std::span<const std::uint8_t> headers);
 
 // The colours for the first cells of the scale from `pixels`, the bytes that `layout` asks for or

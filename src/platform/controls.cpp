@@ -4,6 +4,7 @@
 #include <QStyleOptionButton>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
+#include <QWheelEvent>
 
 namespace cirrava {
 
@@ -33,6 +34,7 @@ void give_sunken_border(QFrame& frame) {
 
 Button::Button() {
     setFocusPolicy(Qt::StrongFocus);
+    setAutoDefault(true); // Enter presses it while it has the focus
 }
 
 void Button::set_face(const QColor& face) {
@@ -71,6 +73,16 @@ void NumberBar::paintEvent(QPaintEvent* event) {
     QScrollBar::paintEvent(event);
     QStylePainter painter(this);
     paint_focus(painter, *this, palette().color(QPalette::Window));
+}
+
+void NumberBar::wheelEvent(QWheelEvent* event) {
+    constexpr int notch = QWheelEvent::DefaultDeltasPerStep; // finer wheels send parts of it
+    const QPoint turn = event->angleDelta();
+    turned_ += turn.y() - turn.x(); // up and right are more
+    const int notches = turned_ / notch;
+    turned_ %= notch;
+    setValue(value() + notches);
+    event->accept();
 }
 
 Line::Line() {

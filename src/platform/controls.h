@@ -10,7 +10,7 @@
 namespace cirrava {
 
 // A push button that can be painted in a colour of its own, flat and exact, with its caption
-// wrapped and taken as plain text: no "&" in it makes a shortcut.
+// wrapped and shown as it is, a "&" too. Enter and Space press it.
 class Button : public QPushButton {
     Q_OBJECT
 public:
@@ -29,8 +29,8 @@ private:
     QColor face_;
 };
 
-// A horizontal scroll bar for a number: arrows, track, wheel and keys move it by 1, Tab reaches it,
-// and the focus shows on it.
+// A horizontal scroll bar for a number: arrows, track, keys and each notch of the wheel move it by
+// 1, Tab reaches it, and the focus shows on it.
 class NumberBar : public QScrollBar {
     Q_OBJECT
 public:
@@ -38,6 +38,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    int turned_ = 0; // of the wheel since its last full notch, in eighths of a degree
 };
 
 // A line, or bar, as wide and high as its place and filled with its text colour.

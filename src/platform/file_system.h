@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <string>
 
 // What file access needs of the operating system in a way that standard C++ does not offer.
 // One implementation per system: file_system_posix.cpp, file_system_windows.cpp.
@@ -18,5 +19,8 @@ std::FILE* open_stream(const std::filesystem::path& path, FileAccess access);
 
 // Whether the system's file lists leave `path` out by default.
 bool is_hidden(const std::filesystem::path& path);
+
+// The path that `text` spells in the system's 8-bit encoding.
+std::filesystem::path path_of_system_text(const std::string& text);
 
 } // namespace cirrava

@@ -26,4 +26,8 @@ bool is_hidden(const std::filesystem::path& path) {
     return path.filename().native().starts_with('.');
 }
 
+std::filesystem::path path_of_system_text(const std::string& text) {
+    return text;
+}
+
 } // namespace cirrava

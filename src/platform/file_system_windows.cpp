@@ -25,4 +25,12 @@ bool is_hidden(const std::filesystem::path& path) {
            (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
 }
 
+std::filesystem::path path_of_system_text(const std::string& text) {
+    std::wstring wide(text.size(), L'\0'); // never longer in wide characters
+    const int size = MultiByteToWideChar(CP_ACP, 0, text.data(), static_cast<int>(text.size()),
+                                         wide.data(), static_cast<int>(wide.size()));
+    wide.resize(static_cast<std::size_t>(size));
+    return wide;
+}
+
 } // namespace cirrava

@@ -7,8 +7,9 @@
 // Numbers as the window shows them. No locale changes any of it: the decimal point is ".".
 namespace cirrava {
 
-// The shortest decimal text of `value` with at most 15 significant digits, which hides the rounding
-// noise of double arithmetic: 14.360000000000001 gives 14.36. Never an exponent; |value| < 1e15.
+// The shortest decimal text of `value` with at most 15 significant digits, which hides most
+// rounding noise of double arithmetic: 14.360000000000001 gives 14.36. Never an exponent; |value| <
+// 1e15.
 std::string plain_text(double value);
 
 // `value` rounded to one decimal digit, halves away from zero: -110 gives -110.0.

@@ -60,9 +60,8 @@ std::string tick_text(ScaleKind kind, int cell) {
 }
 
 std::string tooltip_text(ScaleKind kind, int cell) {
-    std::string text = std::to_string(cell + 1);
-    text.insert(text.begin(), '(');
-    text += ") " + celsius_text(kind, cell) + "Celcius / ";
+    std::string text = "(";
+    text += std::to_string(cell + 1) + ") " + celsius_text(kind, cell) + "Celcius / ";
     text += plain_text(fahrenheit(celsius(kind, cell))) + "Farenheit";
     return text;
 }

@@ -27,12 +27,10 @@ const char* const description =
     "Developed by the Cirrava PAL developers.";
 
 const char* const disclaimer =
-    "Warning: this software comes with the usual warnings. It was developed as a hobby in free "
-    "time "
-    "and tested reasonably well. Please report faults, and send a note of appreciation if you like "
-    "it. To communicate, please use the decoder's user group. This is free software that comes "
-    "with "
-    "no warranty or claim.\n\n"
+    "This software comes with the usual warnings. It was developed as a hobby in free time and "
+    "tested reasonably well. Please report faults, and send a note of appreciation if you like it. "
+    "To communicate, please use the decoder's user group. This is free software that comes with no "
+    "warranty or claim.\n\n"
     "Good luck";
 
 class AboutWindow : public QDialog {

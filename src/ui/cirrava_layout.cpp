@@ -93,8 +93,10 @@ private:
     QWidget& window_;
 };
 
+// The focus starts at the first control of the order.
 void set_tab_order(CirravaControls& c) {
     QWidget* last = &c.Text1;
+    last->setFocus();
     const auto then = [&last](QWidget& next) {
         QWidget::setTabOrder(last, &next);
         last = &next;

@@ -22,7 +22,7 @@ c. Copy color from one area to another:
 Double click on a scale to copy the colour of that place into the sample area. From there you can apply it to any range of any scale.
 
 d. Generate color lookup table for Cirrava from your color settings
-Click the generate button beside each enhancement, choose a file name and confirm. Copy the bmp file produced into Cirrava's installation folder. It is best to run Cirrava PAL from that folder: the file dialog then opens there by itself.
+Click the generate button beside each enhancement (it works once the enhancement is the one you are working on), choose a file name and confirm. Copy the bmp file produced into Cirrava's installation folder. It is best to keep Cirrava PAL in that folder and to run it there: the file dialog then opens there by itself.
 
 e. Load an already generated CLUT and modify it
 Click "Load From File" to read a bmp file made by Cirrava PAL (or an identical bmp) into its scale. The program identifies the enhancement by itself. The colours of an HVC file come back a little darker than they were saved.

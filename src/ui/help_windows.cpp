@@ -48,7 +48,6 @@ public:
         place(Command1_, *this, "Command1", box);
         dress(Command1_, {.font = font});
         Command1_.setText(caption);
-        Command1_.setAutoDefault(false);
     }
 
 protected:
@@ -80,6 +79,7 @@ void show_hvchelp(QWidget& parent) {
           {.font = {
                .family = FontFamily::narrow, .points = 14.25, .bold = true, .underlined = true}});
     Label1.setText("Information about HVC Palette");
+    fit(Label1, Label1.text(), Label1.contentsRect());
     window.place_text(hvc_text, {120, 840, 4335, 5175}, green,
                       {.family = FontFamily::arial, .points = 9.75});
     window.place_button("QUIT", {1320, 6240, 1935, 495}, {.family = FontFamily::narrow});

@@ -58,11 +58,13 @@ std::optional<std::filesystem::path> find_program(const Registry& registry) {
     std::string path;
     if (GetKeyValue(registry, local_machine, system_info_program.key, system_info_program.value,
                     path))
-        return path;
+        return path_of_system_text(path);
     if (!GetKeyValue(registry, local_machine, system_info_folder.key, system_info_folder.value,
                      path))
         return std::nullopt;
-    const std::filesystem::path program = std::filesystem::path(path) / "MSINFO32.EXE";
+    std::filesystem::path program = path_of_system_text(path);
+    program += std::filesystem::path::preferred_separator;
+    program += "MSINFO32.EXE";
     return plain_file_exists(program) ? std::optional(program) : std::nullopt;
 }
 

@@ -106,11 +106,13 @@ TEST(HvcImage, ADarkerCellShowsFromRow127UpALighterOneInTheNextImage) {
     EXPECT_EQ(cells[0], RGB(100, 100, 100));
 }
 
-TEST(PaletteReading, OnlyACompleteHeaderWithBMIsABitmap) {
+TEST(PaletteReading, OnlyACompleteHeaderWithBMIsRead) {
     const Bytes good = headers(0x40, 1, 1, 0);
     EXPECT_TRUE(is_bitmap(good));
-    EXPECT_FALSE(is_bitmap(first(good, 53)));
-    EXPECT_FALSE(is_bitmap(Bytes{}));
+    EXPECT_TRUE(is_bitmap(first(good, 2)));
+    EXPECT_FALSE(is_bitmap(first(good, 1)));
+    EXPECT_TRUE(palette_layout(good));
+    EXPECT_FALSE(palette_layout(first(good, 53)));
     for (const char* type : {"bm", "Bm", "MB", "BA"}) {
         Bytes other = good;
         std::copy_n(type, 2, other.begin());

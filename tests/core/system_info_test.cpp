@@ -102,6 +102,10 @@ TEST_F(SystemInfo, TheFolderOfTheSecondValueMustHoldTheProgram) {
     std::filesystem::remove(program);
     std::ofstream(program) << "a file";
     EXPECT_EQ(start(), program.string());
+    std::filesystem::current_path(folder);
+    add(system_info_folder, {string_value, "\0"s}); // no folder, and so not the current one
+    EXPECT_EQ(start(), "unavailable");
+    std::filesystem::current_path("/");
     std::filesystem::remove_all(folder);
 
     add(system_info_folder, {string_value, std::string(1000, 'x')}); // too long for a file name

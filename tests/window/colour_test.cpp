@@ -116,6 +116,7 @@ TEST_F(ColourChoice, ADoubleClickWithAnyButtonCopiesTheColourAndCountsAsClicks) 
         press("color(0)");
         click(sea(), 3, button);
         QTest::mouseDClick(&sea(), button, {}, middle_of(sea(), 3));
+        QTest::mouseRelease(&sea(), button, {}, middle_of(sea(), 3));
         EXPECT_EQ(swatch(), QColor(255, 192, 128));
         EXPECT_EQ(readouts(), (QStringList{"255", "192", "128"}));
         EXPECT_EQ(box(button == Qt::LeftButton ? 1 : 2), "-9.4");

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QWheelEvent>
 
 namespace cirrava {
 
@@ -65,6 +66,23 @@ TEST_F(Hvc, EachStepOfTheSliderShiftsOnceAndReturnsToTheMiddle) {
     const QPoint arrow(3, brightness().height() / 2);
     QTest::mouseClick(&brightness(), Qt::LeftButton, {}, arrow);
     EXPECT_EQ(hvc().colour(10), RGB(86, 136, 186));
+}
+
+TEST_F(Hvc, OneNotchOfTheWheelIsOneStepHoweverFineTheWheelCounts) {
+    colour_cells(0, 0, 100, 100, 100);
+    const auto turn = [this](int eighths_of_a_degree) {
+        const QPointF place = brightness().rect().center();
+        QWheelEvent event(place, brightness().mapToGlobal(place), {}, {0, eighths_of_a_degree},
+                          Qt::NoButton, {}, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&brightness(), &event);
+    };
+    turn(120);
+    EXPECT_EQ(hvc().colour(0), RGB(105, 105, 105));
+    turn(-40);
+    turn(-40);
+    EXPECT_EQ(hvc().colour(0), RGB(105, 105, 105));
+    turn(-40);
+    EXPECT_EQ(hvc().colour(0), RGB(100, 100, 100));
 }
 
 TEST_F(Hvc, ADragOfTheSliderCountsOnceAtItsEnd) {

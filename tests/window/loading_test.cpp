@@ -105,7 +105,7 @@ TEST_F(Loading, RefusesWhatIsNoPaletteAndChangesNothing) {
     load(make("empty.bmp", QByteArray()));
     EXPECT_EQ(user.told.last(), no_palette);
     load(make("headless.bmp", QByteArray("BM\0\0", 4)));
-    EXPECT_EQ(user.told.last(), no_palette);
+    EXPECT_EQ(user.told.last(), corrupted);
     load(make("other.bmp", row_image(rainbow(100))));
     EXPECT_EQ(user.told.last(), corrupted);
 
