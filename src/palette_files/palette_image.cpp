@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 
 namespace cirrava {
 
@@ -47,11 +48,16 @@ void append_info_header(Bytes& bytes, std::int32_t biWidth, std::int32_t biHeigh
     append_little_endian<std::int32_t>(bytes, 0);    // biClrImportant
 }
 
-void append_pixel(Bytes& bytes, Colour color) {
-    const ChannelBytes channels = Data_byte_calc(color);
-    bytes.push_back(channels.blue_byte);
-    bytes.push_back(channels.green_byte);
-    bytes.push_back(channels.red_byte);
+Bytes pixels_of(std::span<const Colour> cells) {
+    Bytes bytes;
+    bytes.reserve(cells.size() * pixel_size);
+    for (const Colour color : cells) {
+        const ChannelBytes channels = Data_byte_calc(color);
+        bytes.push_back(channels.blue_byte);
+        bytes.push_back(channels.green_byte);
+        bytes.push_back(channels.red_byte);
+    }
+    return bytes;
 }
 
 // `color` with `levels` added to each channel, as far as 0 and 255.
@@ -69,11 +75,30 @@ void shift_cells(std::span<Colour> cells, const BrightnessShift& shift) {
     }
 }
 
+// `row` with `levels` added to each byte, as far as 0 and 255. Whole rows of bytes shift at the speed
+// of a copy, where pixel by pixel would take many times as long.
+void append_shifted(Bytes& bytes, const Bytes& row, int levels) {
+    const auto step = static_cast<std::uint8_t>(std::abs(levels));
+    const auto highest = static_cast<std::uint8_t>(255 - step);
+    const auto lighter = [=](std::uint8_t value) {
+        return static_cast<std::uint8_t>(std::min(value, highest) + step);
+    };
+    const auto darker = [=](std::uint8_t value) {
+        return static_cast<std::uint8_t>(std::max(value, step) - step);
+    };
+    bytes.resize(bytes.size() + row.size());
+    const auto place = bytes.end() - std::ssize(row);
+    if (levels > 0)
+        std::transform(row.begin(), row.end(), place, lighter);
+    else
+        std::transform(row.begin(), row.end(), place, darker);
+}
+
 // Rows `from` down to `to`, in the order of the file.
 void append_hvc_rows(Bytes& bytes, std::span<const Colour> cells, int from, int to) {
+    const Bytes own = pixels_of(cells);
     for (int row = from; row >= to; --row)
-        for (const Colour color : cells)
-            append_pixel(bytes, shifted(color, own_colours_row - row));
+        append_shifted(bytes, own, own_colours_row - row);
 }
 
 std::int32_t little_endian_at(std::span<const std::uint8_t> bytes, std::size_t offset) {
@@ -116,8 +141,8 @@ Bytes row_image(std::span<const Colour> cells) {
     bytes.reserve(headers_size + row_size);
     append_file_header(bytes);
     append_info_header(bytes, static_cast<std::int32_t>(cells.size()), 1);
-    for (const Colour color : cells)
-        append_pixel(bytes, color);
+    const Bytes pixels = pixels_of(cells);
+    bytes.insert(bytes.end(), pixels.begin(), pixels.end());
     bytes.resize(headers_size + row_size);
     return bytes;
 }
