@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
-# Builds the program and runs every test. An argument names the preset: dev (default) or asan.
+# Builds the program and runs every test: fuzzing, the tests with sanitizers, and the tests as they are.
+# With an argument, only those of one preset: fuzz, asan or dev.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 . "$here/scripts/packages.sh"
-preset=${1:-dev}
 
 install_packages "${build_packages[@]}" "${test_packages[@]}" "${screen_packages[@]}"
-cmake -S "$here" --preset "$preset"
-cmake --build "$here/build/$preset"
-ctest --test-dir "$here/build/$preset" --output-on-failure --parallel 2
+for preset in ${1:-fuzz asan dev}; do
+    cmake -S "$here" --preset "$preset"
+    cmake --build "$here/build/$preset"
+    ctest --test-dir "$here/build/$preset" --output-on-failure --parallel 2
+done

@@ -1,7 +1,7 @@
 # The Debian packages that the project needs, and how they get onto the machine. To be sourced.
 
 build_packages=(cmake fonts-liberation g++ ninja-build qt6-base-dev)
-test_packages=(libgtest-dev)
+test_packages=(clang libclang-rt-dev libgtest-dev)
 screen_packages=(imagemagick openbox x11-utils xdotool xvfb)
 
 install_packages() {
