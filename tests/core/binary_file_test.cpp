@@ -1,5 +1,6 @@
 #include "platform/binary_file.h"
 
+#include "../circumstances.h"
 #include "platform/failure.h"
 
 #include <gtest/gtest.h>
@@ -39,24 +40,6 @@ protected:
     }
 
     fs::path folder;
-};
-
-// A process limit, lowered for as long as this lives.
-class Limit {
-public:
-    Limit(int resource, rlim_t value) : resource_(resource) {
-        getrlimit(kind(), &before_);
-        const rlimit lowered{.rlim_cur = value, .rlim_max = before_.rlim_max};
-        setrlimit(kind(), &lowered);
-    }
-    ~Limit() { setrlimit(kind(), &before_); }
-    Limit(const Limit&) = delete;
-    Limit& operator=(const Limit&) = delete;
-
-private:
-    __rlimit_resource kind() const { return static_cast<__rlimit_resource>(resource_); }
-    int resource_;
-    rlimit before_{};
 };
 
 int number_of(const std::function<void()>& action) {
@@ -106,28 +89,6 @@ TEST_F(BinaryFileTest, OpensRegularFilesOnlyAndNeverWaits) {
         EXPECT_FALSE(plain_file_exists(path)) << path;
     }
     close(socket_descriptor);
-}
-
-TEST_F(BinaryFileTest, NamesEachFailureByItsNumber) {
-    const fs::path missing = folder / "missing.bmp";
-    EXPECT_EQ(number_of_opening(missing, FileAccess::read), 53);
-    EXPECT_FALSE(fs::exists(missing));
-    EXPECT_EQ(number_of_opening(folder / "no folder" / "a.bmp", FileAccess::read), 76);
-    EXPECT_EQ(number_of_opening(folder / "no folder" / "a.bmp", FileAccess::read_write), 76);
-    EXPECT_EQ(number_of_opening(folder / std::string(300, 'a'), FileAccess::read_write), 52);
-    EXPECT_EQ(number_of([&] { plain_file_exists(folder / std::string(300, 'a')); }), 52);
-    EXPECT_EQ(number_of_opening("", FileAccess::read_write), 52);
-
-    const fs::path locked = make("locked.bmp", {1});
-    fs::permissions(folder, fs::perms::owner_all | fs::perms::others_exec);
-    fs::permissions(locked, fs::perms::owner_read | fs::perms::others_read);
-    const bool as_root = geteuid() == 0;
-    ASSERT_EQ(seteuid(as_root ? 65534 : geteuid()), 0); // permissions do not bind root
-    EXPECT_EQ(number_of_opening(locked, FileAccess::read_write), 75);
-    ASSERT_EQ(seteuid(as_root ? 0 : geteuid()), 0);
-
-    const Limit no_more_files(RLIMIT_NOFILE, 3);
-    EXPECT_EQ(number_of_opening(locked, FileAccess::read), 67);
 }
 
 TEST_F(BinaryFileTest, AFullDiskFailsTheWriteOrItsClose) {
