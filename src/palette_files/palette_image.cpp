@@ -75,8 +75,8 @@ void shift_cells(std::span<Colour> cells, const BrightnessShift& shift) {
     }
 }
 
-// `row` with `levels` added to each byte, as far as 0 and 255. Whole rows of bytes shift at the speed
-// of a copy, where pixel by pixel would take many times as long.
+// `row` with `levels` added to each byte, as far as 0 and 255. Whole rows of bytes shift at the
+// speed of a copy, where pixel by pixel would take many times as long.
 void append_shifted(Bytes& bytes, const Bytes& row, int levels) {
     const auto step = static_cast<std::uint8_t>(std::abs(levels));
     const auto highest = static_cast<std::uint8_t>(255 - step);

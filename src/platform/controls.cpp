@@ -3,15 +3,13 @@
 #include <QFileInfo>
 #include <QStyleOptionButton>
 #include <QStyleOptionFocusRect>
-#include <QStylePainter>
 #include <QWheelEvent>
 
 namespace cirrava {
 
 namespace {
 
-constexpr int bevel = 2;       // of a button, in pixels
-constexpr int focus_inset = 3; // from the edge of a control
+constexpr int focus_inset = 3; // from the edge of a control, in pixels
 
 void paint_focus(QStylePainter& painter, const QWidget& control, const QColor& ground) {
     if (!control.hasFocus())
@@ -52,14 +50,22 @@ void Button::paintEvent(QPaintEvent*) {
     QStyleOptionButton option;
     initStyleOption(&option);
     QStylePainter painter(this);
-    painter.drawControl(QStyle::CE_PushButtonBevel, option);
     if (face_.isValid())
-        painter.fillRect(rect().adjusted(bevel, bevel, -bevel, -bevel),
-                         isDown() ? face_.darker(125) : face_);
+        paint_face(painter, isDown() ? face_.darker(125) : face_);
+    else
+        painter.drawControl(QStyle::CE_PushButtonBevel, option);
     const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     painter.setPen(palette().color(group, QPalette::ButtonText));
     painter.drawText(caption_box(), Qt::AlignCenter | Qt::TextDontClip | Qt::TextWordWrap, text());
     paint_focus(painter, *this, face_.isValid() ? face_ : palette().color(QPalette::Button));
+}
+
+// With a fine outline that leaves out the corners.
+void Button::paint_face(QStylePainter& painter, const QColor& colour) const {
+    const QColor outline = palette().color(QPalette::Window).darker(170);
+    painter.fillRect(rect().adjusted(1, 0, -1, 0), outline);
+    painter.fillRect(rect().adjusted(0, 1, 0, -1), outline);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), colour);
 }
 
 NumberBar::NumberBar() : QScrollBar(Qt::Horizontal) {

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStylePainter>
 
 // The kinds of controls that the toolkit lacks.
 namespace cirrava {
@@ -26,6 +27,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void paint_face(QStylePainter& painter, const QColor& colour) const;
+
     QColor face_;
 };
 

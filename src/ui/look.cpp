@@ -8,6 +8,9 @@ namespace cirrava {
 
 namespace {
 
+// Named, lest the toolkit loads all its image plugins to find the format.
+const char* const png = "PNG";
+
 // The named families where present, else near equivalents.
 const QStringList sans_families{"MS Sans Serif", "Liberation Sans", "Arial", "DejaVu Sans"};
 const QStringList narrow_families{"Arial Narrow", "Liberation Sans Narrow", "Arial", "DejaVu Sans"};
@@ -72,7 +75,15 @@ QFont to_font(const FontLook& look) {
 }
 
 void dress(QWidget& control, const Look& look) {
-    control.setFont(to_font(look.font));
+    // What a look leaves open is left alone: controls that share the program's font and palette
+    // share what the style has drawn for them, too.
+    if (look.font != FontLook{}) {
+        QFont font = to_font(look.font);
+        font.setStyleStrategy(QFont::NoFontMerging); // captions need no letters of other fonts
+        control.setFont(font);
+    }
+    if (!look.text && !look.ground)
+        return;
     QPalette palette = control.palette();
     if (look.text)
         palette.setColor(control.foregroundRole(), QColor(*look.text));
@@ -100,13 +111,21 @@ void fit(QWidget& control, const QString& caption, const QRect& box) {
 }
 
 QPixmap program_picture(double scale) {
-    return QIcon(":/picture.png").pixmap(QSize(72, 96), scale);
+    const char* const file = scale <= 1   ? ":/picture.png"
+                             : scale <= 2 ? ":/picture@2x.png"
+                                          : ":/picture@3x.png";
+    QImage image(file, png);
+    const QSize size = (QSizeF(72, 96) * scale).toSize();
+    if (image.size() != size)
+        image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    image.setDevicePixelRatio(scale);
+    return QPixmap::fromImage(image);
 }
 
 QIcon program_icon() {
     QIcon icon;
-    for (const int size : {16, 32, 48, 64, 128, 256})
-        icon.addFile(QString(":/icon-%1.png").arg(size), {size, size});
+    for (const int size : {16, 32, 64}) // a title bar asks for no larger one
+        icon.addPixmap(QPixmap(QString(":/icon-%1.png").arg(size), png));
     return icon;
 }
 

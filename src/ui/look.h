@@ -17,6 +17,8 @@ struct FontLook {
     double points = 8.25;
     bool bold = false;
     bool underlined = false;
+
+    bool operator==(const FontLook&) const = default;
 };
 
 // How a control differs from the program's standard look.

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <map>
+
+// Runs benchmarks in alternation and holds their medians against what the program promises.
+namespace promises {
+
+struct Figure {
+    double milliseconds = 0;
+    double peak_KiB = 0;
+};
+
+class Medians : public benchmark::ConsoleReporter {
+public:
+    Medians() : ConsoleReporter(OO_None) {}
+
+    void ReportRuns(const std::vector<Run>& runs) override {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& run : runs) {
+            failed = failed || run.error_occurred;
+            if (run.aggregate_name != "median")
+                continue;
+            Figure& figure = figures_[run.run_name.function_name];
+            figure.milliseconds =
+                run.GetAdjustedRealTime() * (run.time_unit == benchmark::kNanosecond ? 1e-6 : 1);
+            const auto peak = run.counters.find("peak_KiB");
+            if (peak != run.counters.end())
+                figure.peak_KiB = peak->second;
+        }
+    }
+
+    // All zeros for a benchmark that did not run.
+    Figure operator[](const char* benchmark) const {
+        const auto found = figures_.find(benchmark);
+        return found == figures_.end() ? Figure{} : found->second;
+    }
+
+    bool failed = false;
+
+private:
+    std::map<std::string, Figure> figures_;
+};
+
+inline bool hold(const char* what, double figure, const char* unit, double limit) {
+    const bool kept = figure > 0 && figure <= limit;
+    std::printf("%-58s %6.2f %-5s at most %.2f  %s\n", what, figure, unit, limit,
+                kept ? "kept" : "NOT KEPT");
+    return kept;
+}
+
+} // namespace promises

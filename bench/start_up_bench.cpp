@@ -1,0 +1,57 @@
+#include "promises.h"
+
+#include <algorithm>
+#include <spawn.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+
+// Whole processes, from their start to the first painted frame. A program of its own and without
+// the toolkit, because the peak memory of a process counts from that of the one that started it.
+namespace {
+
+extern "C" char** environ;
+
+// Runs `program` to its end and returns its peak memory in KiB, or a negative number on failure.
+long run(const char* program) {
+    const char* const arguments[]{program, nullptr};
+    pid_t process = 0;
+    if (posix_spawn(&process, program, nullptr, nullptr, const_cast<char* const*>(arguments),
+                    environ) != 0)
+        return -1;
+    int status = 0;
+    rusage usage{};
+    if (wait4(process, &status, 0, &usage) != process || status != 0)
+        return -1;
+    return usage.ru_maxrss;
+}
+
+void start(benchmark::State& state, const char* program) {
+    long peak = 0;
+    for (auto _ : state) {
+        const long memory = run(program);
+        if (memory < 0) {
+            state.SkipWithError("the program cannot be run");
+            break;
+        }
+        peak = std::max(peak, memory);
+    }
+    state.counters["peak_KiB"] = static_cast<double>(peak);
+}
+
+} // namespace
+
+BENCHMARK_CAPTURE(start, empty_window, START_EMPTY)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(start, cirrava_pal, START_CIRRAVA)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+int main(int argc, char* argv[]) {
+    benchmark::Initialize(&argc, argv);
+    promises::Medians medians;
+    benchmark::RunSpecifiedBenchmarks(&medians);
+    const promises::Figure empty = medians["start/empty_window"];
+    const promises::Figure cirrava = medians["start/cirrava_pal"];
+    const bool quick = promises::hold("Start to the first frame, against an empty window",
+                                      cirrava.milliseconds / empty.milliseconds, "times", 1.25);
+    const bool lean = promises::hold("Peak memory of that, against an empty window",
+                                     cirrava.peak_KiB / empty.peak_KiB, "times", 1.2);
+    return quick && lean && !medians.failed ? 0 : 1;
+}
