@@ -41,7 +41,7 @@ check_files() {
 
 # What is on the machine as long as the package is.
 traces() {
-    find /etc /usr/bin /usr/share /var/lib/dpkg /var/cache \
+    find /etc /usr/bin /usr/share /var/lib/dpkg \
         '(' -name '*cirrava-pal*' -o -name "*$id*" ')' 2>/dev/null || true
     dpkg-query --show cirrava-pal 2>/dev/null || true
 }

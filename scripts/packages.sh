@@ -3,7 +3,7 @@
 build_packages=(cmake fonts-liberation g++ ninja-build qt6-base-dev)
 test_packages=(libgtest-dev)
 screen_packages=(imagemagick openbox x11-utils xdotool xvfb)
-package_packages=(dpkg-dev file gzip)
+package_packages=(dpkg-dev file)
 package_check_packages=(appstream desktop-file-utils lintian)
 
 # Before a command that only the administrator may give.
