@@ -3,18 +3,21 @@
 build_packages=(cmake fonts-liberation g++ ninja-build qt6-base-dev)
 test_packages=(clang libclang-rt-dev libgtest-dev)
 screen_packages=(imagemagick openbox x11-utils xdotool xvfb)
+package_packages=(dpkg-dev file)
+package_check_packages=(appstream desktop-file-utils lintian)
+
+# Before a command that only the administrator may give.
+as_root=()
+[[ $EUID -eq 0 ]] || as_root=(sudo)
 
 install_packages() {
-    local package missing=() as_root=()
+    local package missing=()
     for package in "$@"; do
         dpkg-query --show --showformat='${Status}' "$package" 2>/dev/null |
             grep -q 'install ok installed' || missing+=("$package")
     done
     [[ ${#missing[@]} -eq 0 ]] && return
 
-    if [[ $EUID -ne 0 ]]; then
-        as_root=(sudo)
-    fi
     if ! command -v apt-get >/dev/null || ! command -v "${as_root[0]:-true}" >/dev/null; then
         printf 'Please install these packages (named as on Debian) and start again:\n' >&2
         printf '  %s\n' "${missing[@]}" >&2

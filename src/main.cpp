@@ -9,6 +9,8 @@ int main(int, char* argv[]) {
     QApplication::setDesktopSettingsAware(false);
     // Nothing is kept between runs: the toolkit's dialogs find no place for their histories.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ":/");
+    // The desktop finds the program's name and icon by it.
+    QApplication::setDesktopFileName("org.cirrava.CirravaPal");
     QApplication application(only_the_name, argv);
     cirrava::dress(application);
     cirrava::Cirrava window;
