@@ -188,10 +188,11 @@ void EditorModel::load(const Path& chosen) {
 
     // Whole groups of four bytes before the pixels are skipped, a rest of them is not.
     qsizetype place = 54 + std::max<qsizetype>(0, number_at(bytes, 10) - 54) / 4 * 4;
-    if (scale == hvc && bytes.size() < place + 127 * 300)
+    constexpr qsizetype hvc_row = 300;
+    if (scale == hvc && bytes.size() < place + 127 * hvc_row)
         return fail("62");
     if (scale == hvc)
-        place += 126 * 300;
+        place += 126 * hvc_row;
     for (auto cell = cells[scale].begin(); cell != cells[scale].end(); ++cell, place += 3)
         if (place + 3 <= bytes.size())
             *cell = byte_at(bytes, place + 2) + 256 * byte_at(bytes, place + 1) +

@@ -261,6 +261,7 @@ TEST_F(RandomWalk, AgreesWithThePlainModelAfterEveryEvent) {
     const auto events = number_from("CIRRAVA_WALK_EVENTS", 10'000);
     const std::string start = "CIRRAVA_WALK_SEED=" + std::to_string(seed);
     std::cout << start << std::endl;
+    RecordProperty("CIRRAVA_WALK_SEED", std::to_string(seed));
     start_from(seed);
     for (std::uint64_t number = 1; number <= events; ++number) {
         step();
