@@ -1,6 +1,7 @@
 #include "platform/controls.h"
 
 #include <QFileInfo>
+#include <QImageReader>
 #include <QStyleOptionButton>
 #include <QStyleOptionFocusRect>
 #include <QWheelEvent>
@@ -26,6 +27,14 @@ void give_sunken_border(QFrame& frame) {
     frame.setFrameStyle(QFrame::Panel | QFrame::Sunken);
     frame.setLineWidth(2);
     frame.setFocusPolicy(Qt::TabFocus);
+}
+
+// Null when the file holds no image.
+QImage image_in(const QString& path) {
+    QImageReader reader(path);
+    QImage image(reader.size(), reader.imageFormat());
+    image.fill(Qt::black); // where the file is cut short, the reader leaves what it finds
+    return reader.read(&image) ? image : QImage();
 }
 
 } // namespace
@@ -120,7 +129,7 @@ PictureBox::PictureBox() {
 
 bool PictureBox::show_file(const QString& path) {
     // Anything but a regular file, such as a pipe, could keep the reader waiting.
-    const QImage image = QFileInfo(path).isFile() ? QImage(path) : QImage();
+    const QImage image = QFileInfo(path).isFile() ? image_in(path) : QImage();
     if (image.isNull() && !path.isEmpty())
         return false;
     image_ = image;

@@ -1,7 +1,5 @@
 #include "window_fixture.h"
 
-#include <QStyleOptionSlider>
-
 namespace cirrava {
 
 namespace {
@@ -9,18 +7,6 @@ namespace {
 class ColourChoice : public WindowTest {
 protected:
     QStringList readouts() { return {caption("Label15"), caption("Label16"), caption("Label17")}; }
-
-    // Where a part of a scroll bar is, in its own pixels.
-    static QPoint part(NumberBar& bar, QStyle::SubControl control) {
-        QStyleOptionSlider option;
-        option.initFrom(&bar);
-        option.orientation = Qt::Horizontal;
-        option.minimum = bar.minimum();
-        option.maximum = bar.maximum();
-        option.sliderPosition = option.sliderValue = bar.value();
-        option.singleStep = option.pageStep = 1;
-        return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, control, &bar).center();
-    }
 };
 
 const char* const refusal = "Choose a range by left clicking for start and right clicking for end";
@@ -44,14 +30,18 @@ TEST_F(ColourChoice, APresetMovesSwatchSlidersAndReadouts) {
 
 TEST_F(ColourChoice, ArrowsAndTrackOfASliderMoveItByOne) {
     auto& green = find<NumberBar>("HScroll2");
-    QTest::mouseClick(&green, Qt::LeftButton, {}, part(green, QStyle::SC_ScrollBarAddLine));
+    QTest::mouseClick(&green, Qt::LeftButton, {},
+                      part(green, QStyle::SC_ScrollBarAddLine).center());
     EXPECT_EQ(green.value(), 1);
-    QTest::mouseClick(&green, Qt::LeftButton, {}, part(green, QStyle::SC_ScrollBarAddPage));
+    QTest::mouseClick(&green, Qt::LeftButton, {},
+                      part(green, QStyle::SC_ScrollBarAddPage).center());
     EXPECT_EQ(green.value(), 2);
-    QTest::mouseClick(&green, Qt::MiddleButton, {}, part(green, QStyle::SC_ScrollBarAddPage));
+    QTest::mouseClick(&green, Qt::MiddleButton, {},
+                      part(green, QStyle::SC_ScrollBarAddPage).center());
     EXPECT_EQ(green.value(), 2);
     QTest::keyClick(&green, Qt::Key_PageDown);
-    QTest::mouseClick(&green, Qt::LeftButton, {}, part(green, QStyle::SC_ScrollBarSubLine));
+    QTest::mouseClick(&green, Qt::LeftButton, {},
+                      part(green, QStyle::SC_ScrollBarSubLine).center());
     EXPECT_EQ(green.value(), 0);
     QTest::keyClick(&green, Qt::Key_Right);
     EXPECT_EQ(readouts(), (QStringList{"0", "1", "0"}));
@@ -60,7 +50,7 @@ TEST_F(ColourChoice, ArrowsAndTrackOfASliderMoveItByOne) {
 
 TEST_F(ColourChoice, SwatchAndReadoutFollowTheThumbWhileItIsDragged) {
     auto& red = find<NumberBar>("HScroll1");
-    const QPoint thumb = part(red, QStyle::SC_ScrollBarSlider);
+    const QPoint thumb = part(red, QStyle::SC_ScrollBarSlider).center();
     QTest::mousePress(&red, Qt::LeftButton, {}, thumb);
     int last = 0;
     for (int x = 10; x <= 150; x += 70) {

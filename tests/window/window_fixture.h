@@ -3,6 +3,7 @@
 #include "ui/cirrava.h"
 
 #include <QApplication>
+#include <QStyleOptionSlider>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -92,6 +93,18 @@ protected:
     void apply(const char* preset) {
         press(preset);
         press("Command2");
+    }
+
+    // Where a part of a scroll bar is, in its own pixels.
+    static QRect part(NumberBar& bar, QStyle::SubControl control) {
+        QStyleOptionSlider option;
+        option.initFrom(&bar);
+        option.orientation = Qt::Horizontal;
+        option.minimum = bar.minimum();
+        option.maximum = bar.maximum();
+        option.sliderPosition = option.sliderValue = bar.value();
+        option.singleStep = option.pageStep = 1;
+        return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, control, &bar);
     }
 
     Answers user;
