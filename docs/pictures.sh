@@ -3,7 +3,8 @@
 set -euo pipefail
 program=$(realpath "$1")
 docs=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-folder=$(mktemp --directory)
+folder=/tmp/palettes # is seen on a picture
+mkdir "$folder"
 . "$docs/../tests/screen.sh"
 . "$docs/../tests/places.sh"
 
@@ -24,7 +25,47 @@ load_palette() {
     see $2 "$3"
 }
 
-take() { import -window "$window" -strip "$docs/$1.png"; }
+# start [VARIABLE=VALUE...]: opens the window and loads the three palettes.
+start() {
+    env "$@" "$program" &
+    program_id=$!
+    in_window "Cirrava PAL"
+    window=$(xdotool getactivewindow)
+    load_palette thermal.bmp "$(thermal_cell 319)" 601010
+    load_palette sea.bmp "$(sea_cell 249)" 801020
+    load_palette hvc.bmp "$(hvc_cell 99)" c87840
+    # A double click and Apply give a cell the colour it has, and bring the preview up to date.
+    click $(hvc_cell 44)
+    click $(hvc_cell 44)
+    click $(hvc_cell 44) 3
+    click $apply
+}
+
+mark_range() {
+    click $(thermal_cell 220)
+    click $(thermal_cell 259) 3
+}
+
+apply_red() {
+    click $preset_9
+    click $apply
+    see $(thermal_cell 259) ff0000
+}
+
+leave() {
+    click $quit
+    wait "$program_id"
+}
+
+# take NAME: the window, and what lies over it, with the pointer away.
+take() {
+    point_at 9000 6900
+    local place
+    place=$(xwininfo -id "$window" | awk '/Absolute upper-left X/ { x = $4 }
+        /Absolute upper-left Y/ { y = $4 } /Width/ { w = $2 } /Height/ { h = $2 }
+        END { print w "x" h "+" x "+" y }')
+    import -window root -crop "$place" +repage -strip "$docs/$1.png"
+}
 
 cd "$folder"
 palette 320 1 '#fff' '#e8d8ff' '#b060d0' '#5030b0' '#2060e0' '#20b0f0' '#40d8c0' '#40b040' \
@@ -33,24 +74,36 @@ palette 250 1 '#301060' '#4030c0' '#2080f0' '#30d0e0' '#40c870' '#d0e040' '#f8b0
     '#801020' >sea.bmp
 palette 100 256 '#e0e0f0' '#a0b8e8' '#5088d0' '#40a880' '#60a040' '#b8a050' '#c87840' >hvc.bmp
 
-open_screen
-"$program" &
-started+=($!)
-in_window "Cirrava PAL"
-window=$(xdotool getactivewindow)
-load_palette thermal.bmp "$(thermal_cell 319)" 601010
-load_palette sea.bmp "$(sea_cell 249)" 801020
-load_palette hvc.bmp "$(hvc_cell 99)" c87840
-# A double click and Apply give a cell the colour it has, and bring the preview up to date.
-click $(hvc_cell 44)
-click $(hvc_cell 44)
-click $(hvc_cell 44) 3
-click $apply
-click $(thermal_cell 220)
-click $(thermal_cell 259) 3
+open_screen 2048x1400
+start
+mark_range
+take step-2-range
 click $preset_9
-click $apply
 see $swatch ff0000
-see $(thermal_cell 259) ff0000
-point_at 9000 6900
+take step-3-colour
+apply_red
 take main-window
+click $thermal_command
+in_window "Create Thermal"
+xdotool type --delay 0 "$folder/my palette.bmp"
+xdotool key Return
+in_window "Ready to create"
+take step-6-write
+xdotool key Escape
+in_window "Cirrava PAL"
+click $(hvc_cell 60)
+click $(hvc_cell 74) 3
+click $apply
+see $(hvc_cell 70) ff0000
+click $darker
+see $(hvc_cell 70) fa0000
+take step-5-hvc
+leave
+
+scale_factor=2
+start QT_SCALE_FACTOR=2
+mark_range
+apply_red
+take main-window-at-scale-2
+leave
+rm -r "$folder"

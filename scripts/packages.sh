@@ -1,7 +1,7 @@
 # The Debian packages that the project needs, and how they get onto the machine. To be sourced.
 
-build_packages=(cmake fonts-liberation g++ ninja-build qt6-base-dev)
-test_packages=(clang libclang-rt-dev libgtest-dev)
+build_packages=(cmake fonts-liberation g++ ninja-build qt6-base-dev qt6-wayland)
+test_packages=(at-spi2-core clang dbus gir1.2-atspi-2.0 libclang-rt-dev libgtest-dev python3-gi weston)
 screen_packages=(imagemagick openbox x11-utils xdotool xvfb)
 package_packages=(dpkg-dev file)
 package_check_packages=(appstream desktop-file-utils lintian)

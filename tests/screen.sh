@@ -23,11 +23,12 @@ wait_until() {
 
 window_manager_runs() { [[ $(xprop -root _NET_SUPPORTING_WM_CHECK) == *0x* ]]; }
 
+# open_screen [SIZE]
 open_screen() {
     local number="$folder/.display"
     : >"$number"
     # Without -noreset it starts anew when its last client leaves, and turns others away meanwhile.
-    Xvfb -noreset -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$number" 2>/dev/null &
+    Xvfb -noreset -displayfd 3 -screen 0 "${1:-1280x800}x24" -nolisten tcp 3>"$number" 2>/dev/null &
     started+=($!)
     wait_until test -s "$number"
     DISPLAY=:$(<"$number")
@@ -38,13 +39,26 @@ open_screen() {
     wait_until window_manager_runs
 }
 
+# Starts this script anew, with its arguments, on a session bus of its own.
+on_private_bus() {
+    [[ -n ${ON_PRIVATE_BUS:-} ]] || ON_PRIVATE_BUS=yes exec dbus-run-session -- "$0" "$@"
+}
+
+open_accessibility_bus() {
+    /usr/libexec/at-spi-bus-launcher --launch-immediately &
+    started+=($!)
+    export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+}
+
 is_active() { [[ $(xdotool getactivewindow getwindowname) == "$1" ]]; }
 
 # in_window TITLE: waits until the window of that title has the keyboard.
 in_window() { wait_until is_active "$1"; }
 
+scale_factor=1 # of the toolkit, as in QT_SCALE_FACTOR
+
 # The place of a point of the main window, given in twips, on a screen of 96 dots per inch.
-pixels() { echo $(($1 / 15)); }
+pixels() { echo $((scale_factor * $1 / 15)); }
 
 point_at() { xdotool mousemove --window "$window" "$(pixels "$1")" "$(pixels "$2")"; }
 

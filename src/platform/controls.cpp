@@ -39,6 +39,10 @@ QImage image_in(const QString& path) {
 
 } // namespace
 
+QString spoken_colour(const QColor& colour) {
+    return QString("%1, %2, %3").arg(colour.red()).arg(colour.green()).arg(colour.blue());
+}
+
 Button::Button() {
     setFocusPolicy(Qt::StrongFocus);
     setAutoDefault(true); // Enter presses it while it has the focus
@@ -113,6 +117,7 @@ void Swatch::set_colour(const QColor& colour) {
     if (colour == colour_)
         return;
     colour_ = colour;
+    setAccessibleDescription(spoken_colour(colour));
     update();
 }
 

@@ -10,6 +10,9 @@
 // The kinds of controls that the toolkit lacks.
 namespace cirrava {
 
+// A colour as screen readers say it: "255, 0, 0" for red.
+QString spoken_colour(const QColor& colour);
+
 // A push button that can be painted in a colour of its own, flat and exact, with its caption
 // wrapped and shown as it is, a "&" too. Enter and Space press it.
 class Button : public QPushButton {

@@ -1,6 +1,7 @@
 #include "scale_editor/cell_array.h"
 
 #include "platform/twips.h"
+#include "scale_editor/accessible_cells.h"
 #include "scale_editor/qt_values.h"
 
 #include <QHelpEvent>
@@ -25,7 +26,9 @@ constexpr int cells_per_row = 100;
 } // namespace
 
 CellArray::CellArray(ScaleKind kind)
-    : kind_(kind), colours_(static_cast<std::size_t>(cell_count(kind)), RGB(0, 0, 0)) {}
+    : kind_(kind), colours_(static_cast<std::size_t>(cell_count(kind)), RGB(0, 0, 0)) {
+    QAccessible::installFactory(accessible_cells); // once, however often it is asked for
+}
 
 void CellArray::set_colour(int cell, Colour colour) {
     colours_.at(static_cast<std::size_t>(cell)) = colour;

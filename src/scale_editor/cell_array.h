@@ -36,6 +36,12 @@ public:
     // Where a cell takes the mouse, in this widget's pixels; a cell lies over the one before it.
     QRect cell_box(int cell) const;
 
+    // Where a cell shows its colour.
+    QRect mark(int cell) const;
+
+    // The cell that takes the mouse at `place`; -1 outside every cell.
+    int cell_at(QPoint place) const;
+
 signals:
     // A mouse button was released over `cell`, wherever it was pressed on this or another scale.
     void cell_released(int cell, Qt::MouseButton button);
@@ -50,8 +56,6 @@ protected:
 
 private:
     QRect cell_pixels(int cell, int inset_top, int width, int height) const;
-    QRect mark(int cell) const;
-    int cell_at(QPoint place) const; // -1 outside every cell
 
     ScaleKind kind_;
     std::vector<Colour> colours_;

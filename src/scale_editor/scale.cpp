@@ -66,4 +66,11 @@ std::string tooltip_text(ScaleKind kind, int cell) {
     return text;
 }
 
+std::string spoken_text(ScaleKind kind, int cell) {
+    std::string text = "cell ";
+    text += std::to_string(cell + 1) + ", " + celsius_text(kind, cell) + " C, ";
+    text += plain_text(fahrenheit(celsius(kind, cell))) + " F";
+    return text;
+}
+
 } // namespace cirrava

@@ -37,4 +37,7 @@ std::string tick_text(ScaleKind kind, int cell);
 // "(221) 0.0Celcius / 32Farenheit", for the tooltip of a cell; the cells are counted from 1.
 std::string tooltip_text(ScaleKind kind, int cell);
 
+// "cell 221, 0.0 C, 32 F", the name of a cell for screen readers; counted from 1, too.
+std::string spoken_text(ScaleKind kind, int cell);
+
 } // namespace cirrava

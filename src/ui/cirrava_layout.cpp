@@ -37,11 +37,7 @@ public:
             place(preset, member_name("color", i),
                   {2040 + 240 * tables::preset_slot(static_cast<int>(i)), 7200, 255, 255});
             preset.set_face(colour);
-            preset.setAccessibleName(QString("Preset %1: %2, %3, %4")
-                                         .arg(i)
-                                         .arg(colour.red())
-                                         .arg(colour.green())
-                                         .arg(colour.blue()));
+            preset.setAccessibleName(QString("Preset %1: ").arg(i) + spoken_colour(colour));
         }
     }
 
@@ -136,6 +132,7 @@ void lay_out(CirravaControls& controls, QWidget& window) {
     builder.place_scales();
 
     controls.Image1.setPixmap(program_picture(window.devicePixelRatioF()));
+    controls.Image1.setAccessibleName("A satellite above the earth");
     controls.Label1.setIndent(controls.Label1.fontMetrics().averageCharWidth() /
                               2); // off the picture
     controls.Command2.setToolTip("Click to apply color to range selected");

@@ -93,11 +93,11 @@ inline constexpr Row<QLabel> labels[]{
 };
 
 inline constexpr Row<ContinuationMark> marks[]{
-    {&C::Label22, "Label22", "", {12240, 1920, 255, 495}, standard},
-    {&C::Label23, "Label23", "", {12240, 2400, 255, 495}, standard},
-    {&C::Label24, "Label24", "", {12240, 2880, 255, 495}, standard},
-    {&C::Label25, "Label25", "", {12240, 4320, 255, 495}, standard},
-    {&C::Label26, "Label26", "", {12240, 4800, 255, 495}, standard},
+    {&C::Label22, "Label22", "Continues in the row below", {12240, 1920, 255, 495}, standard},
+    {&C::Label23, "Label23", "Continues in the row below", {12240, 2400, 255, 495}, standard},
+    {&C::Label24, "Label24", "Continues in the row below", {12240, 2880, 255, 495}, standard},
+    {&C::Label25, "Label25", "Continues in the row below", {12240, 4320, 255, 495}, standard},
+    {&C::Label26, "Label26", "Continues in the row below", {12240, 4800, 255, 495}, standard},
 };
 
 inline constexpr Row<Line> lines[]{

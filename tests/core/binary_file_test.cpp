@@ -91,6 +91,15 @@ TEST_F(BinaryFileTest, OpensRegularFilesOnlyAndNeverWaits) {
     close(socket_descriptor);
 }
 
+TEST_F(BinaryFileTest, TooManyOpenFilesFailTheNextOne) {
+    const fs::path path = make("a.bmp", {1});
+    // Once before the limit, since the sanitizers open files to look at what they see first.
+    EXPECT_EQ(number_of_opening(folder / "no folder" / "a.bmp", FileAccess::read), 76);
+    const Limit no_more_files(RLIMIT_NOFILE, 3);
+    EXPECT_EQ(number_of_opening(path, FileAccess::read), 67);
+    EXPECT_EQ(number_of_opening(path, FileAccess::read_write), 67);
+}
+
 TEST_F(BinaryFileTest, AFullDiskFailsTheWriteOrItsClose) {
     const Limit small_files(RLIMIT_FSIZE, 100);
     EXPECT_EQ(number_of([&] { make("at_close.bmp", Bytes(101)); }), 61);

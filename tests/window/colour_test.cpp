@@ -28,6 +28,19 @@ TEST_F(ColourChoice, APresetMovesSwatchSlidersAndReadouts) {
     EXPECT_LT(find<Button>("color(9)").x(), find<Button>("color(8)").x());
 }
 
+TEST_F(ColourChoice, EnterPressesTheButtonThatHasTheFocus) {
+    const auto press_by_enter = [this](const char* button) {
+        find<Button>(button).setFocus();
+        QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+    };
+    press_by_enter("color(12)");
+    EXPECT_EQ(swatch(), QColor(255, 224, 192));
+    press_by_enter("Sea_butt");
+    EXPECT_EQ(caption("Label5"), "Sea");
+    press_by_enter("Command2");
+    EXPECT_EQ(user.told, QStringList{refusal});
+}
+
 TEST_F(ColourChoice, ArrowsAndTrackOfASliderMoveItByOne) {
     auto& green = find<NumberBar>("HScroll2");
     QTest::mouseClick(&green, Qt::LeftButton, {},

@@ -1,0 +1,98 @@
+#include "scale_editor/accessible_cells.h"
+
+#include "platform/controls.h"
+#include "scale_editor/cell_array.h"
+#include "scale_editor/qt_values.h"
+
+#include <QAccessibleWidget>
+#include <QPointer>
+
+namespace cirrava {
+
+namespace {
+
+class AccessibleCell : public QAccessibleInterface {
+public:
+    AccessibleCell(CellArray& cells, int cell) : cells_(&cells), cell_(cell) {}
+
+    bool isValid() const override { return !cells_.isNull(); }
+    QObject* object() const override { return nullptr; }
+    QWindow* window() const override { return cells_->window()->windowHandle(); }
+    QAccessible::Role role() const override { return QAccessible::ListItem; }
+    QAccessible::State state() const override { return {}; }
+
+    QString text(QAccessible::Text which) const override {
+        switch (which) {
+        case QAccessible::Name:
+            return to_qt(spoken_text(cells_->kind(), cell_));
+        case QAccessible::Description:
+            return spoken_colour(to_qt(cells_->colour(cell_)));
+        default:
+            return {};
+        }
+    }
+    void setText(QAccessible::Text, const QString&) override {}
+
+    QRect rect() const override {
+        const QRect mark = cells_->mark(cell_);
+        return {cells_->mapToGlobal(mark.topLeft()), mark.size()};
+    }
+
+    QAccessibleInterface* parent() const override {
+        return QAccessible::queryAccessibleInterface(cells_);
+    }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+
+    int cell() const { return cell_; }
+
+private:
+    QPointer<CellArray> cells_;
+    int cell_;
+};
+
+class AccessibleCells : public QAccessibleWidget {
+public:
+    explicit AccessibleCells(CellArray& cells)
+        : QAccessibleWidget(&cells, QAccessible::List), cells_(cells) {
+        for (int cell = 0; cell < cell_count(cells.kind()); ++cell)
+            children_.push_back(
+                QAccessible::registerAccessibleInterface(new AccessibleCell(cells, cell)));
+    }
+    ~AccessibleCells() override {
+        for (const QAccessible::Id child : children_)
+            QAccessible::deleteAccessibleInterface(child);
+    }
+
+    int childCount() const override { return static_cast<int>(children_.size()); }
+
+    QAccessibleInterface* child(int index) const override {
+        return index >= 0 && index < childCount()
+                   ? QAccessible::accessibleInterface(children_[static_cast<std::size_t>(index)])
+                   : nullptr;
+    }
+
+    QAccessibleInterface* childAt(int x, int y) const override {
+        return child(cells_.cell_at(cells_.mapFromGlobal(QPoint(x, y))));
+    }
+
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        const auto* const cell = dynamic_cast<const AccessibleCell*>(child);
+        return cell != nullptr ? cell->cell() : -1;
+    }
+
+private:
+    const CellArray& cells_;
+    std::vector<QAccessible::Id> children_;
+};
+
+} // namespace
+
+QAccessibleInterface* accessible_cells(const QString&, QObject* object) {
+    auto* const cells = qobject_cast<CellArray*>(object);
+    return cells != nullptr ? new AccessibleCells(*cells) : nullptr;
+}
+
+} // namespace cirrava

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QAccessible>
+
+namespace cirrava {
+
+// For QAccessible::installFactory: shows a CellArray to screen readers as a list of its cells, each
+// with its number and temperatures as name, its colour as description, and its place. Null for
+// every other object.
+QAccessibleInterface* accessible_cells(const QString& class_name, QObject* object);
+
+} // namespace cirrava
