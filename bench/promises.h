@@ -44,6 +44,10 @@ private:
     std::map<std::string, Figure> figures_;
 };
 
+inline void tell(const char* what, double figure, const char* unit) {
+    std::printf("%-58s %6.2f %-5s\n", what, figure, unit);
+}
+
 inline bool hold(const char* what, double figure, const char* unit, double limit) {
     const bool kept = figure > 0 && figure <= limit;
     std::printf("%-58s %6.2f %-5s at most %.2f  %s\n", what, figure, unit, limit,

@@ -75,9 +75,9 @@ void shift_cells(std::span<Colour> cells, const BrightnessShift& shift) {
     }
 }
 
-// `row` with `levels` added to each byte, as far as 0 and 255. Whole rows of bytes shift at the
-// speed of a copy, where pixel by pixel would take many times as long.
-void append_shifted(Bytes& bytes, const Bytes& row, int levels) {
+// Puts `row`, with `levels` added to each byte as far as 0 and 255, to `place`. Whole rows of bytes
+// shift at the speed of a copy, where pixel by pixel would take many times as long.
+void put_shifted(const Bytes& row, int levels, Bytes::iterator place) {
     const auto step = static_cast<std::uint8_t>(std::abs(levels));
     const auto highest = static_cast<std::uint8_t>(255 - step);
     const auto lighter = [=](std::uint8_t value) {
@@ -86,8 +86,6 @@ void append_shifted(Bytes& bytes, const Bytes& row, int levels) {
     const auto darker = [=](std::uint8_t value) {
         return static_cast<std::uint8_t>(std::max(value, step) - step);
     };
-    bytes.resize(bytes.size() + row.size());
-    const auto place = bytes.end() - std::ssize(row);
     if (levels > 0)
         std::transform(row.begin(), row.end(), place, lighter);
     else
@@ -97,8 +95,11 @@ void append_shifted(Bytes& bytes, const Bytes& row, int levels) {
 // Rows `from` down to `to`, in the order of the file.
 void append_hvc_rows(Bytes& bytes, std::span<const Colour> cells, int from, int to) {
     const Bytes own = pixels_of(cells);
-    for (int row = from; row >= to; --row)
-        append_shifted(bytes, own, own_colours_row - row);
+    const auto rows = static_cast<std::size_t>(from - to + 1);
+    bytes.resize(bytes.size() + rows * own.size());
+    auto place = bytes.end() - std::ssize(own) * (from - to + 1);
+    for (int row = from; row >= to; --row, place += std::ssize(own))
+        put_shifted(own, own_colours_row - row, place);
 }
 
 std::int32_t little_endian_at(std::span<const std::uint8_t> bytes, std::size_t offset) {

@@ -21,11 +21,17 @@ struct FileQuestion {
 // Everything that is asked of the user or told in a window of its own. Each call waits for the
 // answer; no answer means that the user cancelled. All texts are shown as plain text.
 struct Dialogs {
-    std::function<std::optional<QString>(const FileQuestion&)> open; // the full path chosen
-    std::function<std::optional<QString>(const FileQuestion&)> save; // likewise
-    std::function<std::optional<QColor>(const QColor& initial)> colour;
-    std::function<bool(const QString& text, const QString& title)> ask; // Yes (the default) or No
-    std::function<void(const QString& text)> tell;                      // OK only
+    // The full path chosen.
+    std::function<std::optional<QString>(const FileQuestion&)> open = {};
+    std::function<std::optional<QString>(const FileQuestion&)> save = {};
+
+    std::function<std::optional<QColor>(const QColor& initial)> colour = {};
+
+    // Yes (the default) or No.
+    std::function<bool(const QString& text, const QString& title)> ask = {};
+
+    // With an OK button only.
+    std::function<void(const QString& text)> tell = {};
 };
 
 // The toolkit's own dialogs, in front of `parent`, which must outlive them. The file dialogs let a

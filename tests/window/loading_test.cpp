@@ -62,9 +62,6 @@ std::vector<Colour> rainbow(int count) {
     return colours;
 }
 
-const char* const no_palette = "Selected file is not a color palette";
-const char* const corrupted = "Not a Cirrava PAL file... It's probably corrupted";
-
 } // namespace
 
 TEST_F(Loading, GivesBackTheColoursWhateverTheWorkingScale) {
@@ -87,44 +84,6 @@ TEST_F(Loading, GivesBackTheColoursWhateverTheWorkingScale) {
     EXPECT_EQ(colours_of(hvc()), row_of(picture(), 129));
     EXPECT_EQ(row_of(picture(), 127), hvc_colours);
     EXPECT_TRUE(user.told.isEmpty());
-}
-
-TEST_F(Loading, AShortOneRowFileChangesAsManyCellsAsItHas) {
-    Bytes image = row_image(std::vector<Colour>(320, RGB(9, 8, 7)));
-    image.resize(54 + 100 * 3 + 2);
-    load(make("short.bmp", image));
-    EXPECT_EQ(thermal().colour(99), RGB(9, 8, 7));
-    EXPECT_EQ(thermal().colour(100), RGB(0, 0, 0));
-    EXPECT_TRUE(user.told.isEmpty());
-}
-
-TEST_F(Loading, RefusesWhatIsNoPaletteAndChangesNothing) {
-    const auto as_it_was = colours_of(hvc());
-    load(make("text.bmp", QByteArray("Certainly not a bitmap, but long enough to be one. ......")));
-    EXPECT_EQ(user.told.last(), no_palette);
-    load(make("empty.bmp", QByteArray()));
-    EXPECT_EQ(user.told.last(), no_palette);
-    load(make("headless.bmp", QByteArray("BM\0\0", 4)));
-    EXPECT_EQ(user.told.last(), corrupted);
-    load(make("other.bmp", row_image(rainbow(100))));
-    EXPECT_EQ(user.told.last(), corrupted);
-
-    auto colours = rainbow(100);
-    Bytes image = hvc_image(colours);
-    image.resize(54 + 38099);
-    load(make("short.bmp", image));
-    EXPECT_EQ(user.told.last(), "Error # 62 Cannot Read File");
-    EXPECT_EQ(colours_of(hvc()), as_it_was);
-
-    const QString missing = path("missing.bmp");
-    load(missing);
-    EXPECT_EQ(user.told.last(), "Error # 53 Cannot Read File");
-    EXPECT_FALSE(QFile::exists(missing));
-    load(folder.path());
-    EXPECT_EQ(user.told.last(), "Error # 75 Cannot Read File");
-    user.path.reset();
-    press("Command5");
-    EXPECT_EQ(user.told.last(), "Operation Cancelled");
 }
 
 TEST_F(Loading, AnHvcFileThatCannotBeShownIsLoadedAllTheSame) {
