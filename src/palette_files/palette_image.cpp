@@ -95,9 +95,9 @@ void put_shifted(const Bytes& row, int levels, Bytes::iterator place) {
 // Rows `from` down to `to`, in the order of the file.
 void append_hvc_rows(Bytes& bytes, std::span<const Colour> cells, int from, int to) {
     const Bytes own = pixels_of(cells);
-    const auto rows = static_cast<std::size_t>(from - to + 1);
-    bytes.resize(bytes.size() + rows * own.size());
-    auto place = bytes.end() - std::ssize(own) * (from - to + 1);
+    const std::ptrdiff_t size = std::ssize(own) * (from - to + 1);
+    bytes.resize(bytes.size() + static_cast<std::size_t>(size));
+    auto place = bytes.end() - size;
     for (int row = from; row >= to; --row, place += std::ssize(own))
         put_shifted(own, own_colours_row - row, place);
 }
