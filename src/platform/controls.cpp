@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QImageReader>
+#include <QKeyEvent>
 #include <QStyleOptionButton>
 #include <QStyleOptionFocusRect>
 #include <QWheelEvent>
@@ -45,7 +46,7 @@ QString spoken_colour(const QColor& colour) {
 
 Button::Button() {
     setFocusPolicy(Qt::StrongFocus);
-    setAutoDefault(true); // Enter presses it while it has the focus
+    setAutoDefault(false);
 }
 
 void Button::set_face(const QColor& face) {
@@ -71,6 +72,13 @@ void Button::paintEvent(QPaintEvent*) {
     painter.setPen(palette().color(group, QPalette::ButtonText));
     painter.drawText(caption_box(), Qt::AlignCenter | Qt::TextDontClip | Qt::TextWordWrap, text());
     paint_focus(painter, *this, face_.isValid() ? face_ : palette().color(QPalette::Button));
+}
+
+void Button::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
 }
 
 // With a fine outline that leaves out the corners.
