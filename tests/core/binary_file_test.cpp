@@ -35,10 +35,6 @@ protected:
         return folder / name;
     }
 
-    static Bytes contents(const fs::path& path) {
-        return BinaryFile(path, FileAccess::read).read(1'000'000);
-    }
-
     fs::path folder;
 };
 
@@ -56,12 +52,6 @@ int number_of_opening(const fs::path& path, FileAccess access) {
 }
 
 } // namespace
-
-TEST_F(BinaryFileTest, WritesOverFromTheStartAndShortensNothing) {
-    const fs::path path = make("old.bmp", {1, 2, 3, 4, 5});
-    EXPECT_EQ(make("old.bmp", {7, 8}), path);
-    EXPECT_EQ(contents(path), (Bytes{7, 8, 3, 4, 5}));
-}
 
 TEST_F(BinaryFileTest, ReadsWhatIsThereAndNoMore) {
     BinaryFile file(make("short.bmp", {1, 2, 3}), FileAccess::read);

@@ -155,26 +155,4 @@ TEST(PaletteReading, PixelsStandInStepsOfFourBytesAfterTheHeaders) {
     }
 }
 
-TEST(PaletteReading, TakesCompletePixelsOnly) {
-    const auto thermal = *palette_layout(headers(0x40, 1, 1, 0));
-    EXPECT_EQ(thermal.pixels_size, 960U);
-    EXPECT_EQ(palette_colours(thermal, Bytes{1, 2, 3, 4, 5, 6, 7, 8}),
-              (std::vector<Colour>{RGB(3, 2, 1), RGB(6, 5, 4)}));
-    EXPECT_EQ(palette_layout(headers(250, 0, 1, 0))->pixels_size, 750U);
-}
-
-TEST(PaletteReading, AnHvcFileComesBackTwoLevelsDarker) {
-    std::vector<Colour> cells(100, RGB(200, 100, 1));
-    cells[99] = RGB(255, 2, 0);
-    const Bytes image = hvc_image(cells);
-    const auto hvc = *palette_layout(image);
-    const Bytes pixels(image.begin() + hvc.pixels_at, image.end());
-    const auto colours = palette_colours(hvc, first(pixels, hvc.pixels_size));
-    ASSERT_EQ(colours.size(), 100U);
-    EXPECT_EQ(colours[0], RGB(198, 98, 0));
-    EXPECT_EQ(colours[99], RGB(253, 0, 0));
-    EXPECT_EQ(hvc.pixels_size, 38100U);
-    EXPECT_THROW(palette_colours(hvc, first(pixels, 38099)), Failure);
-}
-
 } // namespace cirrava

@@ -42,11 +42,4 @@ TEST(Scale, ShowsTheSameFahrenheitInBoxAndTooltip) {
         }
 }
 
-TEST(Scale, FahrenheitFollowsTheTextOfTheCelsiusBox) {
-    EXPECT_EQ(fahrenheit_text("-0.5"), "31.1");
-    EXPECT_EQ(fahrenheit_text("-40"), "-40");
-    EXPECT_EQ(fahrenheit_text(" "), " ");
-    EXPECT_EQ(fahrenheit_text(""), " ");
-}
-
 } // namespace cirrava

@@ -100,14 +100,6 @@ TEST_F(OtherWindows, TheMainWindowTakesNoClickWhileAnotherIsOpen) {
     EXPECT_EQ(box(1), "-105.0");
 }
 
-TEST_F(OtherWindows, HvcHelpClosesByItsButton) {
-    in_window_of("hvc_help", [](QDialog& help) {
-        EXPECT_EQ(help.windowTitle(), "About HVC Palette");
-        EXPECT_TRUE(part<QPlainTextEdit>(help, "Text1").hasFocus());
-        close_by(help, "Command1");
-    });
-}
-
 TEST_F(OtherWindows, AboutClosesByEscEnterAndButton) {
     const std::function<void(QDialog&)> ways[]{
         [](QDialog& about) { QTest::keyClick(&about, Qt::Key_Escape); },
