@@ -3,7 +3,7 @@
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$here/scripts/packages.sh"
-. "$here/tests/screen.sh"
+. "$here/scripts/screen.sh"
 
 install_packages "${build_packages[@]}" "${screen_packages[@]}" libbenchmark-dev
 cmake -S "$here" --preset bench

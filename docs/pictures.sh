@@ -5,8 +5,8 @@ program=$(realpath "$1")
 docs=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 folder=/tmp/palettes # is seen on a picture
 mkdir "$folder"
-. "$docs/../tests/screen.sh"
-. "$docs/../tests/places.sh"
+. "$docs/../scripts/screen.sh"
+. "$docs/../scripts/places.sh"
 
 # palette WIDTH HEIGHT COLOURS...: a smooth run through the colours, coldest first.
 palette() {
@@ -18,9 +18,7 @@ palette() {
 # load_palette FILE LAST-CELL COLOUR: and waits until that cell shows it.
 load_palette() {
     click $load
-    in_window "Read and Load palette"
-    xdotool type --delay 0 "$folder/$1"
-    xdotool key Return
+    choose_file "Read and Load palette" "$folder/$1"
     in_window "Cirrava PAL"
     see $2 "$3"
 }
@@ -84,9 +82,7 @@ take step-3-colour
 apply_red
 take main-window
 click $thermal_command
-in_window "Create Thermal"
-xdotool type --delay 0 "$folder/my palette.bmp"
-xdotool key Return
+choose_file "Create Thermal" "$folder/my palette.bmp"
 in_window "Ready to create"
 take step-6-write
 xdotool key Escape

@@ -48,7 +48,8 @@ traces() {
 
 purge() { "${as_root[@]}" dpkg --purge cirrava-pal; }
 
-install_packages "${package_packages[@]}" "${package_check_packages[@]}" "${screen_packages[@]}"
+install_packages "${build_packages[@]}" "${package_packages[@]}" "${package_check_packages[@]}" \
+    "${screen_packages[@]}"
 check_versions
 same "desktop-file-validate" "$(desktop-file-validate "$packaging/$id.desktop" 2>&1)" ""
 appstreamcli validate --no-net --strict "$packaging/$id.metainfo.xml"
@@ -70,6 +71,7 @@ same "before the package is installed" "$(traces)" ""
 trap purge EXIT
 "${as_root[@]}" apt-get install --yes --no-install-recommends "$package"
 "$packaging/try_installed.sh" "$folder"
+"$packaging/try_wayland.sh" cirrava-pal
 purge
 trap - EXIT
 same "after the package is removed" "$(traces)" ""

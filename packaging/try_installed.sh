@@ -3,9 +3,9 @@
 # try_installed.sh FOLDER: keeps a picture of the window in FOLDER.
 set -euo pipefail
 folder=$(realpath "$1")
-tests=$(cd "$(dirname "${BASH_SOURCE[0]}")/../tests" && pwd)
-. "$tests/screen.sh"
-. "$tests/places.sh"
+packaging=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+. "$packaging/../scripts/screen.sh"
+. "$packaging/../scripts/places.sh"
 
 value_of() { sed -n "s/^$1=//p" /usr/share/applications/org.cirrava.CirravaPal.desktop; }
 

@@ -1,14 +1,27 @@
 # The Debian packages that the project needs, and how they get onto the machine. To be sourced.
 
 build_packages=(cmake fonts-liberation g++ ninja-build qt6-base-dev qt6-wayland)
-test_packages=(at-spi2-core clang dbus gir1.2-atspi-2.0 libclang-rt-dev libgtest-dev python3-gi weston)
-screen_packages=(imagemagick openbox x11-utils xdotool xvfb)
+test_packages=(clang libclang-rt-dev libgtest-dev)
+screen_packages=(at-spi2-core dbus gir1.2-atspi-2.0 imagemagick openbox python3-gi x11-utils xdotool xvfb)
 package_packages=(dpkg-dev file)
-package_check_packages=(appstream desktop-file-utils lintian)
+package_check_packages=(appstream desktop-file-utils lintian weston)
 
 # Before a command that only the administrator may give.
 as_root=()
 [[ $EUID -eq 0 ]] || as_root=(sudo)
+
+is_locked() { [[ -e $1 ]] && grep -q ":$(stat --format=%i "$1") " /proc/locks; }
+
+# Another apt-get may be at work, as in the first minutes of many desktops. This one waits for the lock
+# of dpkg by itself, but not for those of its own folders.
+apt_get() {
+    while is_locked /var/lib/apt/lists/lock || is_locked /var/cache/apt/archives/lock; do
+        echo "Waiting until another apt-get is done." >&2
+        sleep 2
+    done
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get --option DPkg::Lock::Timeout=-1 --yes "$@"
+}
 
 install_packages() {
     local package missing=()
@@ -23,7 +36,6 @@ install_packages() {
         printf '  %s\n' "${missing[@]}" >&2
         exit 1
     fi
-    "${as_root[@]}" apt-get update
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install --yes --no-install-recommends "${missing[@]}"
+    apt_get update
+    apt_get install --no-install-recommends "${missing[@]}"
 }

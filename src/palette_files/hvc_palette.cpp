@@ -16,8 +16,8 @@ constexpr int slider_rest = 5;
 } // namespace
 
 void HvcPalette::generate() {
-    create_hvc_file(final_file);
-    Picture1_.show_file(desk_.out_path);
+    if (create_hvc_file(final_file))
+        Picture1_.show_file(desk_.out_path);
 }
 
 void HvcPalette::refresh_preview() {
@@ -45,17 +45,19 @@ void HvcPalette::brightness_changed() {
         HScroll4_.setFocus();
 }
 
-void HvcPalette::create_hvc_file(int fromwhere) {
+bool HvcPalette::create_hvc_file(int fromwhere) {
     try {
         if (fromwhere != final_file)
             desk_.out_path = preview_file;
         else if (!choose_output(desk_, {.file_name = "hvc.bmp", .title = "Create HVC Palette"}))
-            return;
+            return false;
         BinaryFile file(file_path(desk_.out_path), FileAccess::read_write);
         file.write(build_image(fromwhere));
         file.close();
+        return true;
     } catch (const Failure& failure) {
         tell_failure(desk_.dialogs, "Error # ", failure, " A problem occured during file creation");
+        return false;
     }
 }
 

@@ -16,7 +16,7 @@ public:
                PictureBox& Picture1, NumberBar& HScroll4)
         : desk_(desk), state_(state), Label3_(Label3), Picture1_(Picture1), HScroll4_(HScroll4) {}
 
-    // Writes the palette to a file that the user names, and shows what `out_path` then names.
+    // Writes the palette to a file that the user names, and shows it once it is written.
     void generate();
 
     // Writes the preview file anew from the cells and shows it.
@@ -30,7 +30,7 @@ public:
     void brightness_changed();
 
 private:
-    void create_hvc_file(int fromwhere);
+    bool create_hvc_file(int fromwhere); // whether it was written
     Bytes build_image(int fromwhere);
 
     FileDesk desk_;

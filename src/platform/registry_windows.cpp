@@ -6,38 +6,33 @@ namespace cirrava {
 
 namespace {
 
-class WindowsRegistry : public Registry {
-public:
-    long RegOpenKeyExA(std::uint32_t root, const std::string& path, std::uint32_t access,
-                       Key& key) const override {
-        // A predefined root is a 32-bit number, sign-extended to the width of a handle.
-        const auto handle = static_cast<LONG_PTR>(static_cast<LONG>(root));
-        HKEY opened = nullptr;
-        const long result =
-            ::RegOpenKeyExA(reinterpret_cast<HKEY>(handle), path.c_str(), 0, access, &opened);
-        key = reinterpret_cast<Key>(opened);
-        return result;
-    }
+// The rights asked for with a key: reading, writing, creating and enumerating subkeys, change
+// notification, link creation, and the reading of its permissions. Where a user lacks one of them,
+// the key counts as missing.
+constexpr REGSAM access_mask = 0x2003F;
 
-    long RegQueryValueExA(Key key, const std::string& name, std::uint32_t& type,
-                          std::span<char> data, std::uint32_t& size) const override {
-        DWORD value_type = 0;
-        auto value_size = static_cast<DWORD>(data.size());
-        const long result =
-            ::RegQueryValueExA(reinterpret_cast<HKEY>(key), name.c_str(), nullptr, &value_type,
-                               reinterpret_cast<BYTE*>(data.data()), &value_size);
-        type = value_type;
-        size = value_size;
-        return result;
-    }
-
-    void RegCloseKey(Key key) const override { ::RegCloseKey(reinterpret_cast<HKEY>(key)); }
-};
+constexpr DWORD longest_value = 1024;
 
 } // namespace
 
-std::unique_ptr<Registry> system_registry() {
-    return std::make_unique<WindowsRegistry>();
+std::optional<RegistryValue> read_registry(std::uint32_t root, const std::string& key,
+                                           const std::string& name) {
+    // A predefined root is a 32-bit number, sign-extended to the width of a handle.
+    const auto root_handle = reinterpret_cast<HKEY>(static_cast<LONG_PTR>(static_cast<LONG>(root)));
+    HKEY handle = nullptr;
+    if (::RegOpenKeyExA(root_handle, key.c_str(), 0, access_mask, &handle) != ERROR_SUCCESS)
+        return std::nullopt;
+    RegistryValue value{0, std::string(longest_value, '\0')};
+    DWORD type = 0;
+    DWORD size = longest_value;
+    const LONG result = ::RegQueryValueExA(handle, name.c_str(), nullptr, &type,
+                                           reinterpret_cast<BYTE*>(value.bytes.data()), &size);
+    ::RegCloseKey(handle);
+    if (result != ERROR_SUCCESS)
+        return std::nullopt;
+    value.type = type;
+    value.bytes.resize(size);
+    return value;
 }
 
 } // namespace cirrava

@@ -2,9 +2,9 @@
 
 #include "platform/controls.h"
 #include "platform/dialogs.h"
+#include "platform/system_info.h"
 #include "ui/look.h"
 #include "ui/placing.h"
-#include "ui/system_info.h"
 
 #include <QDialog>
 #include <QFileInfo>
@@ -110,7 +110,7 @@ private:
         const auto tell_unavailable = [this] {
             toolkit_dialogs(*this).tell("System Information Is Unavailable At This Time");
         };
-        StartSysInfo(*system_registry(), {start, tell_unavailable});
+        StartSysInfo({read_registry, start, tell_unavailable});
     }
 
     QLabel picIcon_, lblTitle_, lblVersion_, Label1_, lblDescription_, lblDisclaimer_;

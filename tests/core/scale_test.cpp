@@ -1,5 +1,7 @@
 #include "scale_editor/scale.h"
 
+#include "scale_editor/number_text.h"
+
 #include <gtest/gtest.h>
 
 namespace cirrava {
@@ -16,10 +18,7 @@ TEST(Scale, NamesTheTemperaturesOfItsCells) {
     } cases[]{
         {thermal, 0, "-110.0", "-110C/-166F", "(1) -110.0Celcius / -166Farenheit"},
         {thermal, 219, "-0.5", "-0.5C/31.1F", "(220) -0.5Celcius / 31.1Farenheit"},
-        {thermal, 220, "0.0", "0C/32F", "(221) 0.0Celcius / 32Farenheit"},
         {thermal, 319, "49.5", "49.5C/121.1F", "(320) 49.5Celcius / 121.1Farenheit"},
-        {sea, 1, "-9.8", "-9.8C/14.36F", "(2) -9.8Celcius / 14.36Farenheit"},
-        {sea, 50, "0.0", "0C/32F", "(51) 0.0Celcius / 32Farenheit"},
         {sea, 249, "39.8", "39.8C/103.64F", "(250) 39.8Celcius / 103.64Farenheit"},
         {hvc, 0, "-60", "-60C/-76F", "(1) -60Celcius / -76Farenheit"},
         {hvc, 99, "39", "39C/102.2F", "(100) 39Celcius / 102.2Farenheit"},
@@ -29,17 +28,15 @@ TEST(Scale, NamesTheTemperaturesOfItsCells) {
         EXPECT_EQ(tick_text(expected.kind, expected.cell), expected.tick);
         EXPECT_EQ(tooltip_text(expected.kind, expected.cell), expected.tooltip);
     }
+    EXPECT_EQ(plain_text(14.360000000000001), "14.36");
+    EXPECT_EQ(one_decimal_text(-0.199999999999999), "-0.2");
 }
 
-TEST(Scale, ShowsTheSameFahrenheitInBoxAndTooltip) {
-    for (const ScaleKind kind : all_scales)
-        for (int cell = 0; cell < cell_count(kind); ++cell) {
-            const std::string fahrenheit = fahrenheit_text(celsius_text(kind, cell));
-            EXPECT_NE(tooltip_text(kind, cell).find(" / " + fahrenheit + "F"), std::string::npos)
-                << tooltip_text(kind, cell);
-            // Fifteen digits hide all rounding noise but that of -18 degrees, next to 0 Fahrenheit.
-            EXPECT_TRUE(fahrenheit.size() <= 6 || fahrenheit == "-0.399999999999999") << fahrenheit;
-        }
+TEST(Scale, OnlyOneWholeDecimalNumberIsNumeric) {
+    EXPECT_EQ(numeric_value("  39.8 "), 39.8);
+    EXPECT_EQ(numeric_value("+5"), 5.0);
+    for (const char* text : {"", "   ", "-", "1 2", "12C", "1,5", "+-5", "inf", "nan"})
+        EXPECT_EQ(numeric_value(text), std::nullopt) << '"' << text << '"';
 }
 
 } // namespace cirrava

@@ -1,129 +1,115 @@
 #include "window_fixture.h"
 
-#include <QDir>
+#include "palette_files/palette_image.h"
+
 #include <QHelpEvent>
 #include <QToolTip>
 #include <QWheelEvent>
 
-// What the random walk does not look at.
+// What the random walk does not come to.
 namespace cirrava {
 
 namespace {
 
 class Details : public WindowTest {
 protected:
-    Details() { QDir::setCurrent(folder.path()); } // where the preview is made
-    ~Details() override { QDir::setCurrent(before_); }
-
-    NumberBar& brightness() { return find<NumberBar>("HScroll4"); }
-
-    void colour_hvc_cell_0(int level) {
-        for (const char* slider : {"HScroll1", "HScroll2", "HScroll3"})
-            find<NumberBar>(slider).setValue(level);
-        select(hvc(), 0, 0);
-        press("Command2");
+    // Drags with the mouse over a slider, a pixel at a time.
+    static void drag(NumberBar& bar, int from, int to, const std::function<void()>& look) {
+        QTest::mousePress(&bar, Qt::LeftButton, {}, {from, 8});
+        for (int x = from + 1; x <= to; ++x) {
+            QTest::mouseMove(&bar, {x, 8});
+            look();
+        }
+        QTest::mouseRelease(&bar, Qt::LeftButton, {}, {to, 8});
     }
-
-private:
-    QString before_ = QDir::currentPath();
 };
+
+Bytes cut(const Bytes& bytes, int size) {
+    return {bytes.begin(), bytes.begin() + size};
+}
 
 } // namespace
 
-TEST_F(Details, TicksAndTooltipsTellTheTemperatures) {
-    EXPECT_EQ(caption("T1C(16)"), "49.5C/121.1F");
-    EXPECT_EQ(caption("SS(13)"), "39.8C/103.64F");
-    EXPECT_EQ(caption("hvc(5)"), "39C/102.2F");
+TEST_F(Details, DamagedFilesAreToldAndLoadAsFarAsTheyGo) {
+    std::vector<Colour> grey(100, RGB(90, 90, 90));
+    const Bytes thermal_file = row_image(std::vector<Colour>(320, RGB(1, 2, 3)));
+    const Bytes hvc_file = hvc_image(grey);
+    Bytes unknown_compression = hvc_file;
+    unknown_compression[30] = 99;
+    const QString not_ours = "Not a Cirrava PAL file... It's probably corrupted";
+    const struct {
+        Bytes bytes;
+        QString told;
+        Colour thermal_99, hvc_99; // afterwards
+    } files[]{
+        {{}, "Selected file is not a color palette", 0, 0},
+        {cut(thermal_file, 2), not_ours, 0, 0},
+        {row_image(grey), not_ours, 0, 0},
+        {cut(thermal_file, 54 + 100 * 3 - 1), "", 0, 0},
+        {cut(thermal_file, 54 + 100 * 3), "", RGB(1, 2, 3), 0},
+        {cut(hvc_file, 54 + 127 * 300 - 1), "Error # 62 Cannot Read File", RGB(1, 2, 3), 0},
+        {unknown_compression, "Error # 481 Cannot Read File", RGB(1, 2, 3), RGB(88, 88, 88)},
+        {cut(hvc_file, 54 + 127 * 300), "", RGB(1, 2, 3), RGB(88, 88, 88)},
+    };
+    for (const auto& [bytes, told, thermal_99, hvc_99] : files) {
+        SCOPED_TRACE(bytes.size());
+        user.path = folder.filePath(QString::number(bytes.size()) + told.left(9));
+        BinaryFile file(user.path->toStdString(), FileAccess::read_write);
+        file.write(bytes);
+        file.close();
+        user.heard.clear();
+        press("Command5");
+        EXPECT_EQ(user.heard.mid(1).join('\n'), told);
+        EXPECT_EQ(thermal().colour(99), thermal_99);
+        EXPECT_EQ(thermal().colour(100), 0);
+        EXPECT_EQ(hvc().colour(99), hvc_99);
+    }
+    const QImage& picture = find<PictureBox>("Picture1").image();
+    EXPECT_EQ(picture.pixel(50, 255 - 126), qRgb(88, 88, 88));
+    EXPECT_EQ(picture.pixel(50, 255 - 127), qRgb(0, 0, 0)); // the rows that the file lacks
+}
 
-    const QPoint place = middle_of(sea(), 1);
+TEST_F(Details, ATooltipTellsTheTemperature) {
+    const QPoint place = inside(sea(), 1);
     QHelpEvent rest(QEvent::ToolTip, place, sea().mapToGlobal(place));
     QCoreApplication::sendEvent(&sea(), &rest);
     EXPECT_EQ(QToolTip::text(), "(2) -9.8Celcius / 14.36Farenheit");
     QToolTip::hideText();
 }
 
-TEST_F(Details, OfTwoOverlappingCellsTheHigherIsOnTop) {
-    const QRect ninth = thermal().cell_box(9);
-    QTest::mouseClick(&thermal(), Qt::LeftButton, {}, ninth.topLeft());
-    EXPECT_EQ(box(1), "-105.5");
-    QTest::mouseClick(&thermal(), Qt::LeftButton, {}, ninth.topLeft() - QPoint(1, 0));
-    EXPECT_EQ(box(1), "-106.0");
-    QTest::mouseClick(&thermal(), Qt::LeftButton, {}, thermal().cell_box(99).bottomRight());
-    EXPECT_EQ(box(1), "-60.5");
-}
-
-TEST_F(Details, EnterPressesTheButtonThatHasTheFocus) {
-    for (const char* button : {"color(12)", "Sea_butt"}) {
-        find<Button>(button).setFocus();
-        QTest::keyClick(window.focusWidget(), Qt::Key_Return);
-    }
-    EXPECT_EQ(swatch(), QColor(255, 224, 192));
-    EXPECT_EQ(caption("Label5"), "Sea");
-}
-
-TEST_F(Details, SwatchAndReadoutFollowTheThumbWhileItIsDragged) {
+TEST_F(Details, SlidersFollowADragTheBrightnessActsAtItsEndAndKeepsTheFocus) {
     auto& red = find<NumberBar>("HScroll1");
-    const QPoint thumb = part(red, QStyle::SC_ScrollBarSlider).center();
-    QTest::mousePress(&red, Qt::LeftButton, {}, thumb);
-    for (int x = 10, last = 0; x <= 150; x += 70) {
-        QTest::mouseMove(&red, thumb + QPoint(x, 0));
-        EXPECT_GT(red.value(), last);
-        last = red.value();
-        EXPECT_EQ(swatch(), QColor(last, 0, 0));
-        EXPECT_EQ(caption("Label15"), QString::number(last));
-    }
-    QTest::mouseRelease(&red, Qt::LeftButton, {}, thumb + QPoint(150, 0));
-}
+    drag(red, 30, 180, [&] {
+        EXPECT_EQ(swatch(), QColor(red.value(), 0, 0));
+        EXPECT_EQ(caption("Label15"), QString::number(red.value()));
+    });
+    const int reached = red.value();
+    EXPECT_GT(reached, 50);
+    QTest::mouseClick(&red, Qt::LeftButton, {}, {red.width() - 30, 8}); // its track
+    EXPECT_EQ(red.value(), reached + 1);
 
-TEST_F(Details, TheBrightnessSliderActsOnceAtTheEndOfADragAndKeepsTheFocus) {
-    colour_hvc_cell_0(100);
-    const QPoint thumb = brightness().rect().center();
-    QTest::mousePress(&brightness(), Qt::LeftButton, {}, thumb);
-    for (int x = 1; x <= 60; ++x)
-        QTest::mouseMove(&brightness(), thumb + QPoint(x, 0));
-    EXPECT_EQ(hvc().colour(0), RGB(100, 100, 100));
-    QTest::mouseRelease(&brightness(), Qt::LeftButton, {}, thumb + QPoint(60, 0));
-    EXPECT_EQ(hvc().colour(0), RGB(121, 121, 121));
-
+    select(hvc(), 0, 0);
+    apply(3);
+    drag(brightness(), brightness().width() / 2, brightness().width() - 5,
+         [this] { EXPECT_EQ(hvc().colour(0), RGB(128, 128, 128)); });
+    EXPECT_EQ(hvc().colour(0), RGB(149, 149, 149));
     brightness().setFocus();
     QTest::keyClick(&brightness(), Qt::Key_Left);
-    EXPECT_EQ(hvc().colour(0), RGB(116, 116, 116));
+    EXPECT_EQ(hvc().colour(0), RGB(144, 144, 144));
     EXPECT_TRUE(brightness().hasFocus());
 }
 
 TEST_F(Details, OneNotchOfTheWheelIsOneStepHoweverFineTheWheelCounts) {
-    colour_hvc_cell_0(100);
-    for (const int eighths_of_a_degree : {-40, -40, -40}) {
-        EXPECT_EQ(hvc().colour(0), RGB(100, 100, 100));
-        const QPointF place = brightness().rect().center();
-        QWheelEvent turn(place, brightness().mapToGlobal(place), {}, {0, eighths_of_a_degree},
-                         Qt::NoButton, {}, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&brightness(), &turn);
+    auto& red = find<NumberBar>("HScroll1");
+    for (const int value : {0, 0, 1, 1}) {
+        const QPointF place = red.rect().center();
+        QWheelEvent turn(place, red.mapToGlobal(place), {}, {0, 50}, Qt::NoButton, {},
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&red, &turn);
+        EXPECT_EQ(red.value(), value);
     }
-    EXPECT_EQ(hvc().colour(0), RGB(95, 95, 95));
-}
-
-TEST_F(Details, EachFileDialogIsProposedANameInTheProgramsFolder) {
-    const struct {
-        const char* scale;
-        const char* button;
-        const char* title;
-        const char* name;
-    } actions[]{{"thermal_butt", "thermal_command", "Create Thermal", "thermal.bmp"},
-                {"Sea_butt", "sea_command", "Create Sea Surface Palette", "sea.bmp"},
-                {"hvc_butt", "hvc_command", "Create HVC Palette", "hvc.bmp"}};
-    user.path = folder.filePath("other & <b>\"é\".bmp");
-    for (const auto& action : actions) {
-        press(action.scale);
-        press(action.button);
-        const FileQuestion& question = user.questions.back();
-        EXPECT_EQ(question.title, action.title);
-        EXPECT_EQ(question.name, action.name);
-        EXPECT_EQ(question.filter, "*.bmp");
-        EXPECT_EQ(question.folder, QCoreApplication::applicationDirPath());
-        EXPECT_TRUE(QFile::exists(*user.path));
-        EXPECT_TRUE(user.prompts.last().endsWith(" " + *user.path + "?"));
-    }
+    EXPECT_EQ(red.accessibleDescription() + find<Swatch>("sample").accessibleDescription(),
+              "1, 0, 0");
 }
 
 } // namespace cirrava

@@ -3,7 +3,7 @@
 #include "ui/cirrava.h"
 
 #include <QApplication>
-#include <QStyleOptionSlider>
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -15,31 +15,28 @@ inline void PrintTo(const QString& text, std::ostream* out) {
 
 namespace cirrava {
 
-// Stands in for the user in front of the dialogs: answers from what is set here, and keeps what was
-// asked and told.
-struct Answers {
+// Stands in for the user in front of the dialogs: answers from what is set here.
+struct User {
     std::optional<QString> path; // nothing: the user cancels
     std::optional<QColor> colour;
     bool yes = true;
-
-    std::vector<FileQuestion> questions;
-    QStringList prompts;
-    QStringList told;
+    QStringList heard; // what was asked and told, in order
 
     Dialogs dialogs() {
         const auto choose_file = [this](const FileQuestion& question) {
-            questions.push_back(question);
+            const auto& [title, filter, folder, name] = question;
+            heard << title + ": " + name + " of " + filter + " in " + folder;
             return path;
+        };
+        const auto ask = [this](const QString& text, const QString& title) {
+            heard << title + ": " + text;
+            return yes;
         };
         return {.open = choose_file,
                 .save = choose_file,
                 .colour = [this](const QColor&) { return colour; },
-                .ask =
-                    [this](const QString& text, const QString&) {
-                        prompts << text;
-                        return yes;
-                    },
-                .tell = [this](const QString& text) { told << text; }};
+                .ask = ask,
+                .tell = [this](const QString& text) { heard << text; }};
     }
 };
 
@@ -53,63 +50,54 @@ template <class Dialog> void in_next(std::function<void(Dialog&)> action) {
     });
 }
 
-// The real window on the offscreen platform, worked by real mouse and key events.
+// The control of that name.
+template <class Control> Control& find_in(const QWidget& window, const QString& name) {
+    auto* const control = window.findChild<Control*>(name);
+    if (control == nullptr)
+        throw std::runtime_error("no control " + name.toStdString());
+    return *control;
+}
+
+// The real window on the offscreen platform, worked by real mouse and key events. The current
+// folder, where the preview is written, is a fresh one.
 class WindowTest : public testing::Test {
 protected:
     WindowTest() {
+        QDir::setCurrent(folder.path());
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
+    ~WindowTest() override { QDir::setCurrent(QDir::tempPath()); }
 
     template <class Control> Control& find(const QString& name) {
-        auto* const control = window.findChild<Control*>(name);
-        if (control == nullptr)
-            throw std::runtime_error("no control " + name.toStdString());
-        return *control;
+        return find_in<Control>(window, name);
     }
-
-    QString box(int number) { return find<QLineEdit>(QString("Text%1").arg(number)).text(); }
-    QStringList boxes() { return {box(1), box(2), box(3), box(4)}; }
-    QString caption(const char* label) { return find<QLabel>(label).text(); }
-    bool enabled(const char* control) { return find<QWidget>(control).isEnabled(); }
-    QColor swatch() { return find<Swatch>("sample").colour(); }
     CellArray& thermal() { return find<CellArray>("thermal_char"); }
     CellArray& sea() { return find<CellArray>("Label2"); }
     CellArray& hvc() { return find<CellArray>("Label3"); }
+    NumberBar& brightness() { return find<NumberBar>("HScroll4"); }
+    QString box(int number) { return find<QLineEdit>(QString("Text%1").arg(number)).text(); }
+    QString caption(const QString& label) { return find<QLabel>(label).text(); }
+    QColor swatch() { return find<Swatch>("sample").colour(); }
 
-    void press(const char* button) { QTest::mouseClick(&find<Button>(button), Qt::LeftButton); }
-
-    static QPoint middle_of(CellArray& cells, int cell) {
+    void press(const QString& button) { QTest::mouseClick(&find<Button>(button), Qt::LeftButton); }
+    static QPoint inside(CellArray& cells, int cell) {
         return cells.cell_box(cell).topLeft() + QPoint(3, 5);
     }
-    static void click(CellArray& cells, int cell, Qt::MouseButton button = Qt::LeftButton) {
-        QTest::mouseClick(&cells, button, {}, middle_of(cells, cell));
-    }
     static void select(CellArray& cells, int start, int end) {
-        click(cells, start, Qt::LeftButton);
-        click(cells, end, Qt::RightButton);
+        QTest::mouseClick(&cells, Qt::LeftButton, {}, inside(cells, start));
+        QTest::mouseClick(&cells, Qt::RightButton, {}, inside(cells, end));
     }
-    void apply(const char* preset) {
-        press(preset);
+    // Gives the marked cells the colour of a preset.
+    void apply(int preset) {
+        press(QString("color(%1)").arg(preset));
         press("Command2");
     }
 
-    // Where a part of a scroll bar is, in its own pixels.
-    static QRect part(NumberBar& bar, QStyle::SubControl control) {
-        QStyleOptionSlider option;
-        option.initFrom(&bar);
-        option.orientation = Qt::Horizontal;
-        option.minimum = bar.minimum();
-        option.maximum = bar.maximum();
-        option.sliderPosition = option.sliderValue = bar.value();
-        option.singleStep = option.pageStep = 1;
-        return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, control, &bar);
-    }
-
-    Answers user;
-    Cirrava window{user.dialogs()};
+    User user;
     QTemporaryDir folder;
+    Cirrava window{user.dialogs()};
 };
 
 } // namespace cirrava

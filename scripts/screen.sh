@@ -1,4 +1,5 @@
-# A private screen with a window manager, and a person's hands and eyes on it. To be sourced.
+# A private screen with a window manager, used as a person would: mouse, keys, and a look at the
+# screen. To be sourced, with `folder` set before a picture is taken.
 # Everything waits for a state of the screen or of a file and gives up after a minute.
 
 patience=60 # seconds
@@ -83,9 +84,9 @@ picture() { import -window root "$folder/$1.png"; }
 
 has_size() { [[ $(stat --format=%s "$1") == "$2" ]]; }
 
-# expect_file FILE EXPECTED: waits for the length, then compares every byte.
-expect_file() {
-    wait_until has_size "$1" "$(stat --format=%s "$2")"
-    cmp "$1" "$2" || fail "$1 differs from what it must be"
-    echo "$(basename "$1"): $(stat --format=%s "$1") bytes, each as it must be"
+# choose_file TITLE PATH: types the path into the file dialog of that title, and confirms.
+choose_file() {
+    in_window "$1"
+    xdotool type --delay 0 "$2"
+    xdotool key Return
 }

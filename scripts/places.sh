@@ -6,6 +6,7 @@ sea_cell() { cell 4440 "$1"; }
 preset_9="4080 7320"   # 255, 0, 0
 preset_12="5040 7320"  # 255, 224, 192
 swatch="12000 8000"
+ground="13900 500" # of the window
 apply="13700 8050"
 blue_left_arrow="4530 8400"
 sea_butt="1000 4200"
