@@ -18,8 +18,8 @@ std::vector<Colour> rainbow() {
 }
 
 Bytes hvc_file() {
-    auto cells = rainbow();
-    return hvc_image(cells);
+    const auto cells = rainbow();
+    return hvc_image(cells, cells);
 }
 
 void copy_hvc_image(benchmark::State& state) {
@@ -34,7 +34,7 @@ void copy_hvc_image(benchmark::State& state) {
 void build_hvc_image(benchmark::State& state) {
     auto cells = rainbow();
     for (auto _ : state) {
-        Bytes image = hvc_image(cells);
+        Bytes image = hvc_image(cells, cells);
         benchmark::DoNotOptimize(image.data());
         benchmark::ClobberMemory();
     }

@@ -29,8 +29,6 @@ check_versions() {
         "version=\"$short\" date=\"$(date --date "$date" +%F)\""
     same "CHANGELOG.md" "$(first_match '^## ([0-9.]+)' "$top/CHANGELOG.md")" "$short"
     same "the manual page" "$(first_match '"Cirrava PAL (.*)" ' "$packaging/cirrava-pal.1")" "$short"
-    same "the main window" \
-        "$(first_match '"Version ([0-9.]+)"' "$top/src/ui/cirrava_tables.h")" "$short"
 }
 
 # check_files WHAT FOLDER

@@ -2,35 +2,15 @@
 
 #include "colour/current_colour.h"
 #include "platform/dialogs.h"
-#include "scale_editor/cell_array.h"
 #include "scale_editor/range_selection.h"
 
 namespace cirrava {
 
-// Gives the selected range of the working scale the current colour, and on the HVC scale has the
-// preview refreshed.
-class ApplyColour {
-public:
-    ApplyColour(const EditorState& state, const RangeSelection::Boxes& boxes,
-                const WorkingScale& working_scale, const CurrentColour& current_colour,
-                const Scales& scales, const Dialogs& dialogs, std::function<void()> refresh_preview)
-        : state_(state), boxes_(boxes), working_scale_(working_scale),
-          current_colour_(current_colour), scales_(scales), dialogs_(dialogs),
-          refresh_preview_(std::move(refresh_preview)) {}
-
-    // Tells the user how to choose a range when the boxes hold none.
-    void apply();
-
-private:
-    bool range_is_chosen() const;
-
-    const EditorState& state_;
-    RangeSelection::Boxes boxes_;
-    const WorkingScale& working_scale_;
-    const CurrentColour& current_colour_;
-    Scales scales_;
-    const Dialogs& dialogs_;
-    std::function<void()> refresh_preview_;
-};
+// Gives the cells from `range_start` to `range_end` of the working scale the colour, and returns
+// that scale. Where the range is not complete, tells the user how to choose one and returns
+// nothing.
+std::optional<ScaleKind> apply_colour(Colour color, const RangeSelection& selection,
+                                      const EditorState& state, const WorkingScale& working_scale,
+                                      ScaleControls& scales, const Dialogs& dialogs);
 
 } // namespace cirrava

@@ -4,22 +4,6 @@
 
 namespace cirrava {
 
-namespace {
-
-void show_position(QLabel& readout, const NumberBar& slider) {
-    readout.setText(QString::number(slider.value()));
-}
-
-} // namespace
-
-void CurrentColour::start() {
-    for (NumberBar* slider : {&controls_.HScroll1, &controls_.HScroll2, &controls_.HScroll3})
-        slider->setRange(0, 255);
-    red_moved();
-    green_moved();
-    blue_moved();
-}
-
 Colour CurrentColour::colour() const {
     return from_qt(controls_.sample.colour());
 }
@@ -36,24 +20,10 @@ void CurrentColour::Color_to_RGB(Colour color) {
     controls_.HScroll3.setValue(bytes.blue_byte);
 }
 
-void CurrentColour::red_moved() {
-    show_sliders_colour();
-    show_position(controls_.Label15, controls_.HScroll1);
-}
-
-void CurrentColour::green_moved() {
-    show_sliders_colour();
-    show_position(controls_.Label16, controls_.HScroll2);
-}
-
-void CurrentColour::blue_moved() {
-    show_sliders_colour();
-    show_position(controls_.Label17, controls_.HScroll3);
-}
-
-void CurrentColour::show_sliders_colour() {
+void CurrentColour::slider_moved(const ColourControls::Channel& channel) {
     controls_.sample.set_colour(
         QColor(controls_.HScroll1.value(), controls_.HScroll2.value(), controls_.HScroll3.value()));
+    channel.readout.setText(QString::number(channel.slider.value()));
 }
 
 } // namespace cirrava

@@ -15,6 +15,13 @@ constexpr int slider_rest = 5;
 
 } // namespace
 
+HvcPalette::HvcPalette(FileDesk& desk, const EditorState& state, ScaleControls& scales,
+                       PictureBox& Picture1)
+    : desk_(desk), state_(state), Label3_(scales.Label3), HScroll4_(scales.HScroll4),
+      Picture1_(Picture1) {
+    HScroll4_.setTracking(false); // a drag counts once, at its end
+}
+
 void HvcPalette::generate() {
     if (create_hvc_file(final_file))
         Picture1_.show_file(desk_.out_path);
@@ -23,12 +30,6 @@ void HvcPalette::generate() {
 void HvcPalette::refresh_preview() {
     create_hvc_file(preview_only);
     Picture1_.show_file(preview_file);
-}
-
-void HvcPalette::start() {
-    HScroll4_.setTracking(false); // a drag counts once, at its end
-    HScroll4_.setRange(0, 2 * slider_rest);
-    HScroll4_.setValue(slider_rest);
 }
 
 void HvcPalette::brightness_changed() {
@@ -51,24 +52,24 @@ bool HvcPalette::create_hvc_file(int fromwhere) {
             desk_.out_path = preview_file;
         else if (!choose_output(desk_, {.file_name = "hvc.bmp", .title = "Create HVC Palette"}))
             return false;
-        BinaryFile file(file_path(desk_.out_path), FileAccess::read_write);
-        file.write(build_image(fromwhere));
-        file.close();
+        write_image(fromwhere == final_file ? 0 : fromwhere);
         return true;
     } catch (const Failure& failure) {
-        tell_failure(desk_.dialogs, "Error # ", failure, " A problem occured during file creation");
+        tell_failure(desk_, "Error # ", failure, " A problem occured during file creation");
         return false;
     }
 }
 
-Bytes HvcPalette::build_image(int fromwhere) {
-    std::vector<Colour> cells(Label3_.colours().begin(), Label3_.colours().end());
-    const int steps = fromwhere == final_file ? 0 : fromwhere;
-    Bytes image = hvc_image(cells, {.levels = brightness_levels(steps),
-                                    .first = state_.range_start,
-                                    .last = state_.range_end});
-    Label3_.set_colours(cells);
-    return image;
+// A file that cannot be opened leaves the cells as they are; one that cannot be written does not.
+void HvcPalette::write_image(int steps) {
+    BinaryFile file(file_path(desk_.out_path), FileAccess::read_write);
+    const std::vector<Colour> before(Label3_.colours().begin(), Label3_.colours().end());
+    Label3_.set_colours(shift_brightness(before, {.levels = brightness_levels(steps),
+                                                  .first = state_.range_start,
+                                                  .last = state_.range_end}));
+    // Darker cells show from row 127 up, lighter ones from the next image on.
+    file.write(hvc_image(before, steps > 0 ? Label3_.colours() : before));
+    file.close();
 }
 
 } // namespace cirrava

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "palette_files/file_desk.h"
 #include "palette_files/palette_image.h"
-#include "palette_files/save_prompt.h"
-#include "platform/controls.h"
-#include "scale_editor/cell_array.h"
 #include "scale_editor/editor_state.h"
+#include "scale_editor/scale_controls.h"
 
 namespace cirrava {
 
@@ -12,9 +11,8 @@ namespace cirrava {
 // the selected cells.
 class HvcPalette {
 public:
-    HvcPalette(const FileDesk& desk, const EditorState& state, CellArray& Label3,
-               PictureBox& Picture1, NumberBar& HScroll4)
-        : desk_(desk), state_(state), Label3_(Label3), Picture1_(Picture1), HScroll4_(HScroll4) {}
+    HvcPalette(FileDesk& desk, const EditorState& state, ScaleControls& scales,
+               PictureBox& Picture1);
 
     // Writes the palette to a file that the user names, and shows it once it is written.
     void generate();
@@ -22,22 +20,19 @@ public:
     // Writes the preview file anew from the cells and shows it.
     void refresh_preview();
 
-    // Puts the brightness slider to work: sets it to rest, in the middle of its range.
-    void start();
-
     // The brightness slider was moved: shifts the selected cells by as much, refreshes the preview
     // and puts the slider back to rest.
     void brightness_changed();
 
 private:
     bool create_hvc_file(int fromwhere); // whether it was written
-    Bytes build_image(int fromwhere);
+    void write_image(int steps);
 
-    FileDesk desk_;
+    FileDesk& desk_;
     const EditorState& state_;
     CellArray& Label3_;
-    PictureBox& Picture1_;
     NumberBar& HScroll4_;
+    PictureBox& Picture1_;
 };
 
 } // namespace cirrava

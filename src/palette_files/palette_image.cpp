@@ -3,7 +3,6 @@
 #include "platform/failure.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <cstdlib>
 
 namespace cirrava {
@@ -20,34 +19,6 @@ constexpr int own_colours_row = 127;
 // rows below the cells' own colours: they come back two levels darker than they were written.
 constexpr std::size_t stored_cells_row = 126;
 
-template <class Integer> void append_little_endian(Bytes& bytes, Integer value) {
-    for (std::size_t i = 0; i < sizeof value; ++i)
-        bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
-}
-
-void append_file_header(Bytes& bytes) {
-    bytes.push_back('B'); // bfType
-    bytes.push_back('M');
-    append_little_endian<std::int32_t>(bytes, 0); // bfSize: unused without compression
-    append_little_endian<std::int16_t>(bytes, 0); // bfReserved1
-    append_little_endian<std::int16_t>(bytes, 0); // bfReserved2
-    append_little_endian<std::int32_t>(bytes, static_cast<std::int32_t>(headers_size)); // bfOffBits
-}
-
-void append_info_header(Bytes& bytes, std::int32_t biWidth, std::int32_t biHeight) {
-    append_little_endian<std::int32_t>(bytes, 40); // biSize
-    append_little_endian(bytes, biWidth);
-    append_little_endian(bytes, biHeight);
-    append_little_endian<std::int16_t>(bytes, 1);    // biPlanes
-    append_little_endian<std::int16_t>(bytes, 24);   // biBitCount
-    append_little_endian<std::int32_t>(bytes, 0);    // biCompression: none
-    append_little_endian<std::int32_t>(bytes, 0);    // biSizeImage: may be 0 without compression
-    append_little_endian<std::int32_t>(bytes, 2834); // biXPelsPerMeter: 72 dots per inch
-    append_little_endian<std::int32_t>(bytes, 2834); // biYPelsPerMeter
-    append_little_endian<std::int32_t>(bytes, 0);    // biClrUsed
-    append_little_endian<std::int32_t>(bytes, 0);    // biClrImportant
-}
-
 Bytes pixels_of(std::span<const Colour> cells) {
     Bytes bytes;
     bytes.reserve(cells.size() * pixel_size);
@@ -60,23 +31,15 @@ Bytes pixels_of(std::span<const Colour> cells) {
     return bytes;
 }
 
-// `color` with `levels` added to each channel, as far as 0 and 255.
+// `color` with `levels` added to each channel, which stops at 0 and at 255.
 Colour shifted(Colour color, int levels) {
     const ChannelBytes channels = Data_byte_calc(color);
     const auto shift = [levels](int value) { return std::clamp(value + levels, 0, 255); };
     return RGB(shift(channels.red_byte), shift(channels.green_byte), shift(channels.blue_byte));
 }
 
-void shift_cells(std::span<Colour> cells, const BrightnessShift& shift) {
-    const int last = std::min(shift.last, static_cast<int>(cells.size()) - 1);
-    for (int cell = std::max(shift.first, 0); cell <= last; ++cell) {
-        Colour& color = cells[static_cast<std::size_t>(cell)];
-        color = shifted(color, shift.levels);
-    }
-}
-
-// Puts `row`, with `levels` added to each byte as far as 0 and 255, to `place`. Whole rows of bytes
-// shift at the speed of a copy, where pixel by pixel would take many times as long.
+// Copies `row` to `place` with `levels` added to each byte, which stops at 0 and at 255. Whole rows
+// of bytes take hardly longer than a plain copy; pixel by pixel would take many times as long.
 void put_shifted(const Bytes& row, int levels, Bytes::iterator place) {
     const auto step = static_cast<std::uint8_t>(std::abs(levels));
     const auto highest = static_cast<std::uint8_t>(255 - step);
@@ -100,13 +63,6 @@ void append_hvc_rows(Bytes& bytes, std::span<const Colour> cells, int from, int 
     auto place = bytes.end() - size;
     for (int row = from; row >= to; --row, place += std::ssize(own))
         put_shifted(own, own_colours_row - row, place);
-}
-
-std::int32_t little_endian_at(std::span<const std::uint8_t> bytes, std::size_t offset) {
-    std::uint32_t value = 0;
-    for (std::size_t i = 0; i < sizeof value; ++i)
-        value |= static_cast<std::uint32_t>(bytes[offset + i]) << (8 * i);
-    return static_cast<std::int32_t>(value);
 }
 
 std::optional<ScaleKind> kind_of_size(std::int32_t biWidth, std::int32_t biHeight) {
@@ -137,14 +93,11 @@ std::vector<Colour> colours_of(std::span<const std::uint8_t> pixels) {
 } // namespace
 
 Bytes row_image(std::span<const Colour> cells) {
-    const std::size_t row_size = (cells.size() * 3 + 3) / 4 * 4;
     Bytes bytes;
-    bytes.reserve(headers_size + row_size);
-    append_file_header(bytes);
-    append_info_header(bytes, static_cast<std::int32_t>(cells.size()), 1);
+    append(bytes, {.info = {.biWidth = static_cast<std::int32_t>(cells.size()), .biHeight = 1}});
     const Bytes pixels = pixels_of(cells);
     bytes.insert(bytes.end(), pixels.begin(), pixels.end());
-    bytes.resize(headers_size + row_size);
+    bytes.resize(headers_size + (pixels.size() + 3) / 4 * 4);
     return bytes;
 }
 
@@ -154,36 +107,39 @@ int brightness_levels(int steps) {
     return steps > 0 ? -4 * steps - 1 : -4 * steps + 1;
 }
 
-Bytes hvc_image(std::span<Colour> cells, const BrightnessShift& shift) {
+std::vector<Colour> shift_brightness(std::vector<Colour> cells, const BrightnessShift& shift) {
+    const int last = std::min(shift.last, static_cast<int>(cells.size()) - 1);
+    for (int cell = std::max(shift.first, 0); cell <= last; ++cell) {
+        Colour& color = cells[static_cast<std::size_t>(cell)];
+        color = shifted(color, shift.levels);
+    }
+    return cells;
+}
+
+Bytes hvc_image(std::span<const Colour> below, std::span<const Colour> above) {
     Bytes bytes;
-    bytes.reserve(headers_size + cells.size() * pixel_size * hvc_rows);
-    append_file_header(bytes);
-    append_info_header(bytes, static_cast<std::int32_t>(cells.size()), hvc_rows);
-    append_hvc_rows(bytes, cells, hvc_rows - 1, own_colours_row + 1);
-    if (shift.levels < 0)
-        shift_cells(cells, shift);
-    append_hvc_rows(bytes, cells, own_colours_row, 0);
-    if (shift.levels > 0)
-        shift_cells(cells, shift);
+    bytes.reserve(headers_size + below.size() * pixel_size * hvc_rows);
+    append(bytes,
+           {.info = {.biWidth = static_cast<std::int32_t>(below.size()), .biHeight = hvc_rows}});
+    append_hvc_rows(bytes, below, hvc_rows - 1, own_colours_row + 1);
+    append_hvc_rows(bytes, above, own_colours_row, 0);
     return bytes;
 }
 
 bool is_bitmap(std::span<const std::uint8_t> headers) {
-    return headers.size() >= 2 && headers[0] == 'B' && headers[1] == 'M';
+    return read_headers(headers).file.bfType == bmp_file_header{}.bfType;
 }
 
 std::optional<PaletteLayout> palette_layout(std::span<const std::uint8_t> headers) {
-    if (headers.size() < headers_size)
+    if (headers.size() < headers_size || !is_bitmap(headers))
         return std::nullopt;
-    const std::int32_t bfOffBits = little_endian_at(headers, 10);
-    const std::int32_t biWidth = little_endian_at(headers, 18);
-    const std::int32_t biHeight = little_endian_at(headers, 22);
-    const auto kind = kind_of_size(biWidth, biHeight);
+    const auto [file, info] = read_headers(headers);
+    const auto kind = kind_of_size(info.biWidth, info.biHeight);
     if (!kind)
         return std::nullopt;
     const std::size_t rows = *kind == ScaleKind::hvc ? stored_cells_row + 1 : 1;
     const auto cells = static_cast<std::size_t>(cell_count(*kind));
-    return PaletteLayout{*kind, pixels_place(bfOffBits), rows * cells * pixel_size};
+    return PaletteLayout{*kind, pixels_place(file.bfOffBits), rows * cells * pixel_size};
 }
 
 std::vector<Colour> palette_colours(const PaletteLayout& layout,

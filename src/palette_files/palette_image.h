@@ -1,5 +1,6 @@
 #pragma once
 
+#include "palette_files/bmp_headers.h"
 #include "platform/binary_file.h"
 #include "scale_editor/colour.h"
 #include "scale_editor/scale.h"
@@ -12,8 +13,6 @@
 // the 40-byte information header, rows stored bottom first, pixels as blue, green, red. Bytes in,
 // bytes out; what lies around them in the file system is not known here.
 namespace cirrava {
-
-inline constexpr std::size_t headers_size = 14 + 40;
 
 // The image of a one-row palette (Thermal, Sea Surface): one pixel per cell, coldest first, the row
 // padded with zeros to a multiple of 4 bytes.
@@ -31,13 +30,13 @@ struct BrightnessShift {
     int last = 0;
 };
 
+// `cells` with that change.
+std::vector<Colour> shift_brightness(std::vector<Colour> cells, const BrightnessShift& shift);
+
 // The image of the HVC palette: one column per cell, 256 rows. Row 127 from the top has the cells'
-// own colours; each row below is one level darker per channel and each above one level lighter, as
-// far as 0 and 255.
-//
-// `shift` changes the cells while the rows are made: a darker cell darkens row 127 and all rows
-// above it, a lighter one shows from the next image on.
-Bytes hvc_image(std::span<Colour> cells, const BrightnessShift& shift = {});
+// own colours; each row below is one level darker per channel and each above one level lighter,
+// stopping at 0 and at 255. The rows below row 127 are made from `below`, the others from `above`.
+Bytes hvc_image(std::span<const Colour> below, std::span<const Colour> above);
 
 // Where the headers of a palette file say that its colours are.
 struct PaletteLayout {
@@ -49,9 +48,9 @@ struct PaletteLayout {
 // Whether a file that begins with `headers` claims to be a bitmap at all.
 bool is_bitmap(std::span<const std::uint8_t> headers);
 
-// What `headers`, the first 54 bytes of a bitmap, say; nothing when they are incomplete or the
-// bitmap's size is that of none of the three palettes. Nothing but the size and the place of the
-// pixels is looked at.
+// What `headers`, the first 54 bytes of a file, say; nothing when they are incomplete, or those of
+// no bitmap, or of one whose size is that of none of the three palettes. Nothing but the size and
+// the place of the pixels is looked at.
 std::optional<PaletteLayout> palette_layout(std::span<const std::uint8_t> headers);
 
 // The colours for the first cells of the scale from `pixels`, the bytes that `layout` asks for or

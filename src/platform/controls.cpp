@@ -30,10 +30,14 @@ void give_sunken_border(QFrame& frame) {
     frame.setFocusPolicy(Qt::TabFocus);
 }
 
-// Null when the file holds no image.
-QImage image_in(const QString& path) {
+// Null when the regular file `path` holds no image of that size. Whatever a file claims, no more
+// memory is taken than such an image needs.
+QImage image_in(const QString& path, QSize size) {
     QImageReader reader(path);
-    QImage image(reader.size(), reader.imageFormat());
+    // Anything but a regular file, such as a pipe, could keep the reader waiting.
+    if (!QFileInfo(path).isFile() || reader.size() != size)
+        return {};
+    QImage image(size, reader.imageFormat());
     image.fill(Qt::black); // where the file is cut short, the reader leaves what it finds
     return reader.read(&image) ? image : QImage();
 }
@@ -89,7 +93,9 @@ void Button::paint_face(QStylePainter& painter, const QColor& colour) const {
     painter.fillRect(rect().adjusted(1, 1, -1, -1), colour);
 }
 
-NumberBar::NumberBar() : QScrollBar(Qt::Horizontal) {
+NumberBar::NumberBar(int maximum, int value) : QScrollBar(Qt::Horizontal) {
+    setRange(0, maximum);
+    setValue(value);
     setSingleStep(1);
     setPageStep(1);
     setInvertedControls(false); // right and up are more, for keys and wheel
@@ -136,14 +142,13 @@ void Swatch::paintEvent(QPaintEvent* event) {
     paint_focus(painter, *this, colour_);
 }
 
-PictureBox::PictureBox() {
+PictureBox::PictureBox(QSize image_size) : image_size_(image_size) {
     give_sunken_border(*this);
 }
 
 bool PictureBox::show_file(const QString& path) {
-    // Anything but a regular file, such as a pipe, could keep the reader waiting.
-    const QImage image = QFileInfo(path).isFile() ? image_in(path) : QImage();
-    if (image.isNull() && !path.isEmpty())
+    const QImage image = image_in(path, image_size_);
+    if (image.isNull())
         return false;
     image_ = image;
     update();

@@ -7,7 +7,7 @@
 #include <QScrollBar>
 #include <QStylePainter>
 
-// The kinds of controls that the toolkit lacks.
+// The kinds of controls that Qt lacks.
 namespace cirrava {
 
 // A colour as screen readers say it: "255, 0, 0" for red.
@@ -36,12 +36,12 @@ private:
     QColor face_;
 };
 
-// A horizontal scroll bar for a number: arrows, track, keys and each notch of the wheel move it by
-// 1, Tab reaches it, and the focus shows on it.
+// A horizontal scroll bar for a number from 0 to `maximum`: arrows, track, keys and each notch of
+// the wheel move it by 1, Tab reaches it, and the focus shows on it.
 class NumberBar : public QScrollBar {
     Q_OBJECT
 public:
-    NumberBar();
+    explicit NumberBar(int maximum, int value = 0);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -74,15 +74,15 @@ private:
     QColor colour_;
 };
 
-// A box with a sunken border that shows an image at its natural size at the top left, each pixel a
-// sharp square at every scale factor. It starts empty.
+// A box with a sunken border that shows images of one size at the top left, each pixel a sharp
+// square at every scale factor. It starts empty.
 class PictureBox : public QFrame {
     Q_OBJECT
 public:
-    PictureBox();
+    explicit PictureBox(QSize image_size); // in pixels
 
-    // Shows the image in the regular file `path`; an empty path clears the box. False when that
-    // file holds no image that can be shown: the box then keeps the image that it has.
+    // Shows the image in the regular file `path`. False when that file holds no image of the box's
+    // size: the box then keeps the image that it has.
     bool show_file(const QString& path);
     const QImage& image() const { return image_; }
 
@@ -90,6 +90,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QSize image_size_;
     QImage image_;
 };
 

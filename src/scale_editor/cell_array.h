@@ -63,15 +63,4 @@ private:
     int dpi_ = 96;
 };
 
-// The three scales of a window.
-struct Scales {
-    CellArray& thermal_char;
-    CellArray& Label2;
-    CellArray& Label3;
-
-    CellArray& operator[](ScaleKind kind) const {
-        return kind == ScaleKind::thermal ? thermal_char : kind == ScaleKind::sea ? Label2 : Label3;
-    }
-};
-
 } // namespace cirrava

@@ -1,6 +1,5 @@
 #include "scale_editor/number_text.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -9,36 +8,21 @@ namespace cirrava {
 
 namespace {
 
-constexpr int significant_digits = 15;
-
-std::string fixed_text(double value, int decimals) {
-    std::array<char, 400> buffer{}; // the largest double has 309 digits before the point
-    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                            std::chars_format::fixed, decimals);
+std::string text_of(double value, std::chars_format format, int precision) {
+    std::array<char, 32> buffer{};
+    const auto [end, error] =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, format, precision);
     return {buffer.data(), end};
-}
-
-// 3 for 121.1, 0 for 0.5, -1 for 0.05.
-int digits_before_point(double value) {
-    return value == 0 ? 1 : static_cast<int>(std::floor(std::log10(std::fabs(value)))) + 1;
 }
 
 } // namespace
 
 std::string plain_text(double value) {
-    const int decimals = std::max(0, significant_digits - digits_before_point(value));
-    std::string text = fixed_text(value, decimals);
-    if (text.find('.') != std::string::npos) {
-        text.erase(text.find_last_not_of('0') + 1);
-        if (text.ends_with('.'))
-            text.pop_back();
-    }
-    return text == "-0" ? "0" : text;
+    return text_of(value, std::chars_format::general, 15);
 }
 
 std::string one_decimal_text(double value) {
-    const double rounded = std::round(value * 10.0) / 10.0;
-    return fixed_text(rounded + 0.0, 1); // adding zero turns -0 into 0
+    return text_of(value, std::chars_format::fixed, 1);
 }
 
 std::optional<double> numeric_value(std::string_view text) {

@@ -1,5 +1,6 @@
 #include "scale_editor/range_selection.h"
 
+#include "scale_editor/number_text.h"
 #include "scale_editor/qt_values.h"
 
 namespace cirrava {
@@ -7,11 +8,6 @@ namespace cirrava {
 namespace {
 
 const QString blank = QStringLiteral(" ");
-
-void follow(const QLineEdit& celsius, QLineEdit& fahrenheit) {
-    fahrenheit.setText(to_qt(fahrenheit_text(celsius.text().toStdString())));
-    fahrenheit.setCursorPosition(0); // of a number wider than the box, the first digits show
-}
 
 } // namespace
 
@@ -35,23 +31,26 @@ void RangeSelection::cell_released(ScaleKind kind, int cell, Qt::MouseButton but
     state_.last_scale = kind;
 }
 
-void RangeSelection::start_changed() {
-    follow(boxes_.Text1, boxes_.Text3);
-}
-
-void RangeSelection::end_changed() {
-    follow(boxes_.Text2, boxes_.Text4);
-}
-
 void RangeSelection::reset() {
     blank_boxes();
     state_.range_start = 0;
     state_.range_end = cell_count(ScaleKind::hvc) - 1;
 }
 
+bool RangeSelection::is_complete() const {
+    const auto start = numeric_value(boxes_.Text1.text().toStdString());
+    const auto end = numeric_value(boxes_.Text2.text().toStdString());
+    return start && end && *start <= *end;
+}
+
 void RangeSelection::blank_boxes() {
     boxes_.Text1.setText(blank);
     boxes_.Text2.setText(blank);
+}
+
+void show_fahrenheit(const QLineEdit& celsius, QLineEdit& fahrenheit) {
+    fahrenheit.setText(to_qt(fahrenheit_text(celsius.text().toStdString())));
+    fahrenheit.setCursorPosition(0); // of a number wider than the box, the first digits show
 }
 
 } // namespace cirrava

@@ -4,40 +4,38 @@
 
 namespace cirrava {
 
+namespace {
+
+struct Scale {
+    std::string_view name;
+    int cells;
+    double first; // degrees Celsius
+    double step;
+};
+
+// In the order of `ScaleKind`.
+constexpr Scale scales[]{
+    {"Thermal", 320, -110, 0.5},
+    {"Sea", 250, -10, 0.2},
+    {"HVC", 100, -60, 1},
+};
+
+const Scale& scale(ScaleKind kind) {
+    return scales[static_cast<std::size_t>(kind)];
+}
+
+} // namespace
+
 std::string_view kind_text(ScaleKind kind) {
-    switch (kind) {
-    case ScaleKind::thermal:
-        return "Thermal";
-    case ScaleKind::sea:
-        return "Sea";
-    case ScaleKind::hvc:
-        return "HVC";
-    }
-    return {};
+    return scale(kind).name;
 }
 
 int cell_count(ScaleKind kind) {
-    switch (kind) {
-    case ScaleKind::thermal:
-        return 320;
-    case ScaleKind::sea:
-        return 250;
-    case ScaleKind::hvc:
-        return 100;
-    }
-    return 0;
+    return scale(kind).cells;
 }
 
 double celsius(ScaleKind kind, int cell) {
-    switch (kind) {
-    case ScaleKind::thermal:
-        return cell / 2.0 - 110.0;
-    case ScaleKind::sea:
-        return cell * 0.2 - 10.0;
-    case ScaleKind::hvc:
-        return cell - 60;
-    }
-    return 0;
+    return cell * scale(kind).step + scale(kind).first;
 }
 
 double fahrenheit(double celsius) {

@@ -19,7 +19,7 @@ int cell_count(ScaleKind kind);
 
 // The temperature of a cell in degrees Celsius: Thermal -110 to 49.5 in steps of 0.5, Sea Surface
 // -10 to 39.8 in steps of 0.2, HVC -60 to 39 in steps of 1. May carry the noise of double
-// arithmetic in its last digits, most of which the texts below hide.
+// arithmetic in its last digits; the texts below hide most of it.
 double celsius(ScaleKind kind, int cell);
 
 // Degrees Celsius to degrees Fahrenheit.

@@ -6,22 +6,22 @@ namespace cirrava {
 
 namespace {
 
-constexpr Colour green = RGB(0, 255, 0);
-
-void show(const WorkingScale::ScaleButtons& buttons, bool working) {
-    buttons.choose.set_face(working ? to_qt(green) : QColor());
-    buttons.generate.setEnabled(working);
+// `choose` is green and `generate` enabled while theirs is the working scale.
+void show(bool working, Button& choose, Button& generate) {
+    choose.set_face(working ? QColor(0, 255, 0) : QColor());
+    generate.setEnabled(working);
 }
 
 } // namespace
 
 void WorkingScale::set(ScaleKind kind) {
-    show(controls_.thermal, kind == ScaleKind::thermal);
-    show(controls_.sea, kind == ScaleKind::sea);
-    show(controls_.hvc, kind == ScaleKind::hvc);
-    controls_.Command1.setEnabled(kind == ScaleKind::hvc);
-    controls_.HScroll4.setEnabled(kind == ScaleKind::hvc);
-    controls_.Label5.setText(to_qt(kind_text(kind)));
+    ScaleControls& c = controls_;
+    show(kind == ScaleKind::thermal, c.thermal_butt, c.thermal_command);
+    show(kind == ScaleKind::sea, c.Sea_butt, c.sea_command);
+    show(kind == ScaleKind::hvc, c.hvc_butt, c.hvc_command);
+    c.Command1.setEnabled(kind == ScaleKind::hvc);
+    c.HScroll4.setEnabled(kind == ScaleKind::hvc);
+    c.Label5.setText(to_qt(kind_text(kind)));
 }
 
 std::optional<ScaleKind> WorkingScale::kind() const {

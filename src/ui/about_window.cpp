@@ -10,14 +10,11 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QProcess>
+#include <array>
 
 namespace cirrava {
 
 namespace {
-
-constexpr int major_version = 2;
-constexpr int minor_version = 1;
-constexpr int revision = 0;
 
 const char* const description =
     "This application can be used to generate 24 bit color palette files which can be used by "
@@ -44,6 +41,7 @@ public:
         place_texts();
         place_lines();
         place_buttons();
+        fit_captions(*this);
     }
 
 private:
@@ -62,8 +60,7 @@ private:
     void place_texts() {
         place_text(lblTitle_, "lblTitle", {1560, 240, 2565, 480}, program_title,
                    {.text = qRgb(0, 0, 255), .font = {.points = 18}});
-        place_text(lblVersion_, "lblVersion", {1560, 840, 1245, 225},
-                   QString("Version %1.%2.%3").arg(major_version).arg(minor_version).arg(revision),
+        place_text(lblVersion_, "lblVersion", {1560, 840, 1245, 225}, "Version " CIRRAVA_VERSION,
                    {});
         place_text(Label1_, "Label1", {3000, 840, 1365, 225}, "Quillmark", {});
         place_text(lblDescription_, "lblDescription", {1560, 1125, 3885, 1770}, description,
@@ -80,15 +77,14 @@ private:
         label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
         label.setWordWrap(true);
         label.setText(text);
-        fit(label, text, label.contentsRect());
     }
 
     // Together they look etched into the window.
     void place_lines() {
-        place(dark_line_, *this, "Line1(1)", {90, 3120, 5564, 15});
-        dress(dark_line_, {.text = qRgb(128, 128, 128)});
-        place(light_line_, *this, "Line1(0)", {120, 3240, 5549, 30});
-        dress(light_line_, {.text = qRgb(255, 255, 255)});
+        place(Line1_[1], *this, "Line1(1)", {90, 3120, 5564, 15});
+        dress(Line1_[1], {.text = qRgb(128, 128, 128)});
+        place(Line1_[0], *this, "Line1(0)", {120, 3240, 5549, 30});
+        dress(Line1_[0], {.text = qRgb(255, 255, 255)});
     }
 
     void place_buttons() {
@@ -114,7 +110,7 @@ private:
     }
 
     QLabel picIcon_, lblTitle_, lblVersion_, Label1_, lblDescription_, lblDisclaimer_;
-    Line dark_line_, light_line_;
+    std::array<Line, 2> Line1_;
     Button cmdOK_, cmdSysInfo_;
 };
 

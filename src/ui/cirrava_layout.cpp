@@ -113,6 +113,7 @@ void set_tab_order(CirravaControls& c) {
 } // namespace
 
 void lay_out(CirravaControls& controls, QWidget& window) {
+    window.setObjectName("Cirrava");
     fix_frame(window, "Cirrava PAL", tables::client_area);
     window.setWindowIcon(program_icon());
 
@@ -137,17 +138,6 @@ void lay_out(CirravaControls& controls, QWidget& window) {
                               2); // off the picture
     controls.Command2.setToolTip("Click to apply color to range selected");
     set_tab_order(controls);
-}
-
-void fit_captions(const QWidget& window) {
-    for (auto* const label : window.findChildren<QLabel*>())
-        fit(*label, label->text().trimmed(), label->contentsRect());
-    for (auto* const button : window.findChildren<Button*>())
-        fit(*button, button->text().trimmed(), button->caption_box());
-}
-
-Colour preset_colour(int index) {
-    return tables::preset_colours.at(static_cast<std::size_t>(index));
 }
 
 } // namespace cirrava

@@ -8,10 +8,4 @@ namespace cirrava {
 // gives the window its size, icon and frame. Sizes follow the window's logical dots per inch.
 void lay_out(CirravaControls& controls, QWidget& window);
 
-// Makes every caption fit its box. After the last caption is written.
-void fit_captions(const QWidget& window);
-
-// The colour of a preset button, 0 to 47.
-Colour preset_colour(int index);
-
 } // namespace cirrava

@@ -35,7 +35,11 @@ inline constexpr Row<QLabel> labels[]{
      "Cirrava PAL",
      {6720, 480, 2295, 495},
      {.text = blue, .font = {.family = FontFamily::narrow, .points = 20.25, .bold = true}}},
-    {&C::Label32, "Label32", "Version 2.1", {8160, 1080, 975, 255}, {.text = blue}},
+    {&C::Label32,
+     "Label32",
+     "Version " CIRRAVA_SHORT_VERSION,
+     {8160, 1080, 975, 255},
+     {.text = blue}},
     {&C::Image1, "Image1", "", {5640, 0, 1080, 1440}, standard},
 
     {&C::Label18,

@@ -79,10 +79,10 @@ void show_hvchelp(QWidget& parent) {
           {.font = {
                .family = FontFamily::narrow, .points = 14.25, .bold = true, .underlined = true}});
     Label1.setText("Information about HVC Palette");
-    fit(Label1, Label1.text(), Label1.contentsRect());
     window.place_text(hvc_text, {120, 840, 4335, 5175}, green,
                       {.family = FontFamily::arial, .points = 9.75});
     window.place_button("QUIT", {1320, 6240, 1935, 495}, {.family = FontFamily::narrow});
+    fit_captions(window);
     window.exec();
 }
 

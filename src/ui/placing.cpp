@@ -1,5 +1,10 @@
 #include "ui/placing.h"
 
+#include "platform/controls.h"
+#include "ui/look.h"
+
+#include <QLabel>
+
 namespace cirrava {
 
 void place(QWidget& control, QWidget& window, const QString& name, const Place& place) {
@@ -15,6 +20,13 @@ void fix_frame(QWidget& window, const QString& title, const Place& client_area) 
                           Qt::MSWindowsFixedSizeDialogHint);
     window.setWindowTitle(title);
     window.setFixedSize(to_pixels(client_area, window.logicalDpiX()).size());
+}
+
+void fit_captions(const QWidget& window) {
+    for (auto* const label : window.findChildren<QLabel*>())
+        fit(*label, label->text().trimmed(), label->contentsRect());
+    for (auto* const button : window.findChildren<Button*>())
+        fit(*button, button->text().trimmed(), button->caption_box());
 }
 
 } // namespace cirrava

@@ -13,4 +13,7 @@ void place(QWidget& control, QWidget& window, const QString& name, const Place& 
 // client area as wide and high as `client_area`, in twips.
 void fix_frame(QWidget& window, const QString& title, const Place& client_area);
 
+// Makes every caption of `window` fit its box. After the last caption is written.
+void fit_captions(const QWidget& window);
+
 } // namespace cirrava

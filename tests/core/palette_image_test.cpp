@@ -38,22 +38,23 @@ TEST(PaletteImage, ARowIsHeadersPixelsInBlueGreenRedAndPaddingOfZeros) {
 }
 
 TEST(PaletteImage, HvcRowsAreStoredFromTheDarkestUp) {
-    std::vector<Colour> cells(100, RGB(200, 100, 0));
-    const Bytes image = hvc_image(cells);
+    const std::vector<Colour> below(100, RGB(200, 100, 0));
+    const std::vector<Colour> above(100, RGB(200, 100, 1));
+    const Bytes image = hvc_image(below, above);
     ASSERT_EQ(image.size(), 76854U);
     EXPECT_EQ(part(image, 0, 54), headers(100, 0, 0, 1));
     EXPECT_EQ(part(image, 54, 57), (Bytes{0, 0, 72}));
     EXPECT_EQ(part(image, 54 + 128 * 300 - 3, 54 + 128 * 300 + 3),
-              (Bytes{0, 99, 199, 0, 100, 200}));
-    EXPECT_EQ(part(image, 76851, 76854), (Bytes{127, 227, 255}));
+              (Bytes{0, 99, 199, 1, 100, 200}));
+    EXPECT_EQ(part(image, 76851, 76854), (Bytes{128, 227, 255}));
 }
 
 TEST(PaletteImage, AShiftChangesTheSelectedCellsAsFarAsTheyGo) {
     std::vector<Colour> cells(100, RGB(250, 100, 3));
-    hvc_image(cells, {.levels = brightness_levels(1), .first = 98, .last = 319});
+    cells = shift_brightness(cells, {.levels = brightness_levels(1), .first = 98, .last = 319});
     EXPECT_EQ(cells[97], RGB(250, 100, 3));
     EXPECT_EQ(cells[99], RGB(245, 95, 0));
-    hvc_image(cells, {.levels = brightness_levels(-5), .first = 0, .last = 0});
+    cells = shift_brightness(cells, {.levels = brightness_levels(-5), .first = 0, .last = 0});
     EXPECT_EQ(cells[0], RGB(255, 121, 24));
     EXPECT_EQ(cells[1], RGB(250, 100, 3));
 }

@@ -9,7 +9,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace cirrava;
     const std::span file(data, size);
     const auto headers = file.first(std::min(size, headers_size));
-    const auto layout = is_bitmap(headers) ? palette_layout(headers) : std::nullopt;
+    const auto layout = palette_layout(headers);
     if (!layout)
         return 0;
     const auto pixels = file.subspan(std::min(static_cast<std::size_t>(layout->pixels_at), size));

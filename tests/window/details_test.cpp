@@ -31,9 +31,9 @@ Bytes cut(const Bytes& bytes, int size) {
 } // namespace
 
 TEST_F(Details, DamagedFilesAreToldAndLoadAsFarAsTheyGo) {
-    std::vector<Colour> grey(100, RGB(90, 90, 90));
+    const std::vector<Colour> grey(100, RGB(90, 90, 90));
     const Bytes thermal_file = row_image(std::vector<Colour>(320, RGB(1, 2, 3)));
-    const Bytes hvc_file = hvc_image(grey);
+    const Bytes hvc_file = hvc_image(grey, grey);
     Bytes unknown_compression = hvc_file;
     unknown_compression[30] = 99;
     const QString not_ours = "Not a Cirrava PAL file... It's probably corrupted";
@@ -42,7 +42,7 @@ TEST_F(Details, DamagedFilesAreToldAndLoadAsFarAsTheyGo) {
         QString told;
         Colour thermal_99, hvc_99; // afterwards
     } files[]{
-        {{}, "Selected file is not a color palette", 0, 0},
+        {{'b', 'M'}, "Selected file is not a color palette", 0, 0},
         {cut(thermal_file, 2), not_ours, 0, 0},
         {row_image(grey), not_ours, 0, 0},
         {cut(thermal_file, 54 + 100 * 3 - 1), "", 0, 0},

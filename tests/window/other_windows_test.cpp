@@ -46,6 +46,7 @@ TEST_F(OtherWindows, HelpOpensAtTheTopAndCannotBeChanged) {
         const QString before = text.toPlainText();
         for (const Qt::Key key : {Qt::Key_A, Qt::Key_Delete, Qt::Key_Return, Qt::Key_Escape})
             QTest::keyClick(&text, key);
+        EXPECT_TRUE(help.isVisible());
         QTest::keySequence(&text, QKeySequence::SelectAll);
         QTest::keySequence(&text, QKeySequence::Copy);
         EXPECT_EQ(QApplication::clipboard()->text(), before);

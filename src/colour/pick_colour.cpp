@@ -1,17 +1,17 @@
-#include "colour/colour_picker.h"
+#include "colour/pick_colour.h"
 
 #include "scale_editor/qt_values.h"
 
 namespace cirrava {
 
-void ColourPicker::pick() {
+void pick_colour(CommonDialog& cdlopen, const Dialogs& dialogs, CurrentColour& current_colour) {
     try {
-        cdlopen_.CancelError = true;
-        cdlopen_.ShowColor();
-        current_colour_.take(from_qt(cdlopen_.Color));
+        cdlopen.CancelError = true;
+        cdlopen.ShowColor();
+        current_colour.take(from_qt(cdlopen.Color));
     } catch (const Failure& failure) {
         if (failure.number != FailureNumber::cancelled)
-            dialogs_.tell(
+            dialogs.tell(
                 failure_message("Error# ", failure, " A problem occured in color picking"));
     }
 }

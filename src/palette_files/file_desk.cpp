@@ -1,14 +1,12 @@
-#include "palette_files/save_prompt.h"
+#include "palette_files/file_desk.h"
 
 #include "platform/binary_file.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace cirrava {
 
-bool choose_output(const FileDesk& desk, const SaveProposal& proposal) {
-    desk.cdlopen.InitDir = QCoreApplication::applicationDirPath();
+bool choose_output(FileDesk& desk, const SaveProposal& proposal) {
     desk.cdlopen.FileName = proposal.file_name;
     desk.cdlopen.Filter = "*.bmp";
     desk.cdlopen.DialogTitle = proposal.title;
@@ -21,12 +19,12 @@ bool choose_output(const FileDesk& desk, const SaveProposal& proposal) {
                             "Ready to create");
 }
 
-void tell_failure(const Dialogs& dialogs, const QString& start, const Failure& failure,
+void tell_failure(const FileDesk& desk, const QString& start, const Failure& failure,
                   const QString& end) {
     if (failure.number == FailureNumber::cancelled)
-        dialogs.tell("Operation Cancelled");
+        desk.dialogs.tell("Operation Cancelled");
     else
-        dialogs.tell(failure_message(start, failure, end));
+        desk.dialogs.tell(failure_message(start, failure, end));
 }
 
 std::filesystem::path file_path(const QString& path) {

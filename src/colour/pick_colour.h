@@ -1,0 +1,11 @@
+#pragma once
+
+#include "colour/current_colour.h"
+#include "platform/common_dialog.h"
+
+namespace cirrava {
+
+// Takes the current colour from the colour dialog. A cancel changes nothing and says nothing.
+void pick_colour(CommonDialog& cdlopen, const Dialogs& dialogs, CurrentColour& current_colour);
+
+} // namespace cirrava
