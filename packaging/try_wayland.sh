@@ -15,7 +15,7 @@ wait_until test -S "$folder/$WAYLAND_DISPLAY"
 open_accessibility_bus
 "$1" &
 program_id=$!
-wait_until /usr/bin/python3 "$packaging/press_quit.py"
+wait_until /usr/bin/python3 "$packaging/../scripts/accessible.py"
 wait "$program_id" || fail "the program ended with status $?"
 rm -r "$folder"
 echo "The program starts, shows its window and quits under Wayland."

@@ -56,7 +56,7 @@ is_active() { [[ $(xdotool getactivewindow getwindowname) == "$1" ]]; }
 # in_window TITLE: waits until the window of that title has the keyboard.
 in_window() { wait_until is_active "$1"; }
 
-scale_factor=1 # of the toolkit, as in QT_SCALE_FACTOR
+scale_factor=1 # of Qt, as in QT_SCALE_FACTOR
 
 # The place of a point of the main window, given in twips, on a screen of 96 dots per inch.
 pixels() { echo $((scale_factor * $1 / 15)); }

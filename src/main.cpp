@@ -5,9 +5,9 @@
 #include <QSettings>
 
 int main(int, char* argv[]) {
-    int only_the_name = 1; // the command line is not read, not even by the toolkit
+    int only_the_name = 1; // the command line is not read, not even by Qt
     QApplication::setDesktopSettingsAware(false);
-    // Nothing is kept between runs: the toolkit's dialogs find no place for their histories.
+    // Nothing is kept between runs: Qt's dialogs find no place for their histories.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ":/");
     // The desktop finds the program's name and icon by it.
     QApplication::setDesktopFileName("org.cirrava.CirravaPal");

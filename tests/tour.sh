@@ -60,7 +60,8 @@ click $apply
 see $(thermal_cell 220) ff0000
 see $(thermal_cell 260) 000000
 picture 3-thermal
-/usr/bin/python3 "$tests/accessible.py" || fail "the window does not read as it must"
+PYTHONPATH="$tests/../scripts" /usr/bin/python3 -B "$tests/accessible_test.py" ||
+    fail "the window does not read as it must"
 save_as "$thermal_command" "Create Thermal" thermal.bmp
 picture 4-write-prompt
 xdotool key Return

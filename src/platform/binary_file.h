@@ -14,7 +14,7 @@ using Bytes = std::vector<std::uint8_t>;
 
 // A regular file, open for as long as the object lives. Every operation that fails throws a
 // Failure: bad_file_name, file_not_found, device_error, disk_full, too_many_files, not_ready,
-// path_access (also for whatever is not a regular file) or path_not_found.
+// path_access (also for anything but a regular file) or path_not_found.
 class BinaryFile {
 public:
     // Opens `path` at its first byte.
@@ -29,7 +29,8 @@ public:
     // Writes all of `bytes` at the current place.
     void write(std::span<const std::uint8_t> bytes);
 
-    // Ends the writing. A full disk may show itself only here: a write that counts calls this.
+    // Ends the writing. Some failures, a full disk among them, may show only here: without this
+    // call a file is closed too, but nobody learns of them.
     void close();
 
 private:

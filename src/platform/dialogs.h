@@ -34,9 +34,9 @@ struct Dialogs {
     std::function<void(const QString& text)> tell = {};
 };
 
-// The toolkit's own dialogs, in front of `parent`, which must outlive them. The file dialogs let a
+// Qt's own dialogs, in front of `parent`, which must outlive them. The file dialogs let a
 // name pass that does not exist yet, and one that does, and add no suffix.
-Dialogs toolkit_dialogs(QWidget& parent);
+Dialogs qt_dialogs(QWidget& parent);
 
 // The message for a failure: its number between the texts of the action that failed.
 inline QString failure_message(const QString& start, const Failure& failure, const QString& end) {

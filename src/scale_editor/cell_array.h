@@ -10,8 +10,8 @@
 namespace cirrava {
 
 // All cells of one scale: rows of 100 cells that overlap like tiles, so that each shows a strip 120
-// twips wide and the last of a row its whole 255. The colours of the cells are the palette, and
-// they stand nowhere else. Every cell starts black.
+// twips wide and the last of a row its whole 255. The colours of the cells are the only
+// store of the palette. Every cell starts black.
 //
 // The widget covers the labels between its rows; there it is transparent and reacts to nothing.
 class CellArray : public QWidget {

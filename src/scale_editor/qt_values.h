@@ -6,7 +6,7 @@
 #include <QString>
 #include <string_view>
 
-// Between the core's values and the toolkit's.
+// Conversions between the core's values and Qt's.
 namespace cirrava {
 
 inline QString to_qt(std::string_view text) {

@@ -104,7 +104,7 @@ private:
             return QProcess::startDetached(QFileInfo(program).filePath(), {});
         };
         const auto tell_unavailable = [this] {
-            toolkit_dialogs(*this).tell("System Information Is Unavailable At This Time");
+            qt_dialogs(*this).tell("System Information Is Unavailable At This Time");
         };
         StartSysInfo({read_registry, start, tell_unavailable});
     }

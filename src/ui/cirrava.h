@@ -12,7 +12,7 @@ namespace cirrava {
 class Cirrava : public QWidget {
     Q_OBJECT
 public:
-    Cirrava() : Cirrava(toolkit_dialogs(*this)) {}
+    Cirrava() : Cirrava(qt_dialogs(*this)) {}
     explicit Cirrava(Dialogs dialogs);
 
 private:

@@ -8,7 +8,7 @@ namespace cirrava {
 
 namespace {
 
-// Named, lest the toolkit loads all its image plugins to find the format.
+// Named, so that Qt need not look at the bytes to find the format.
 const char* const png = "PNG";
 
 // The named families where present, else near equivalents.

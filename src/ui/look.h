@@ -33,9 +33,9 @@ QFont to_font(const FontLook& look);
 // Gives `control` the font and text colour of `look`, and its ground where the control fills one.
 void dress(QWidget& control, const Look& look);
 
-// Narrows the font of `control` as far as its caption needs to fit `box` (in the control's pixels),
-// wrapped where the box has room for several lines. Fonts differ in width from one machine to the
-// next; places do not.
+// Narrows the font of `control` until its caption fits `box` (in the control's pixels), wrapped
+// where the box has room for several lines. Fonts differ in width from one machine to the next;
+// places do not.
 void fit(QWidget& control, const QString& caption, const QRect& box);
 
 // The satellite above the earth: 72 x 96 pixels, sharp at `scale` device pixels to a pixel.

@@ -6,7 +6,7 @@
 
 namespace cirrava {
 
-// Puts `control` into `window` under its design name. `place` is in twips.
+// Puts `control` into `window` under that name. `place` is in twips.
 void place(QWidget& control, QWidget& window, const QString& name, const Place& place);
 
 // Makes `window` one that cannot be resized, with a close box and no other title-bar button, its

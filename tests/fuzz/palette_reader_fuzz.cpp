@@ -14,18 +14,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     const auto pixels = file.subspan(std::min(static_cast<std::size_t>(layout->pixels_at), size));
     const auto wanted = pixels.first(std::min(pixels.size(), layout->pixels_size));
-    const auto cells = static_cast<std::size_t>(cell_count(layout->kind));
-    bool as_it_must_be = layout->pixels_at >= 54;
     try {
-        const std::vector<Colour> colours = palette_colours(*layout, wanted);
-        as_it_must_be &=
-            colours.size() == std::min(wanted.size() / 3, cells) &&
-            std::ranges::all_of(colours, [](Colour colour) { return colour >> 24 == 0; });
-    } catch (const Failure& failure) {
-        as_it_must_be &=
-            failure.number == FailureNumber::past_end && wanted.size() < layout->pixels_size;
+        const auto colours = palette_colours(*layout, wanted);
+        if (std::ssize(colours) > cell_count(layout->kind) || layout->pixels_at < 54)
+            std::abort();
+    } catch (const Failure&) {
+        if (wanted.size() == layout->pixels_size)
+            std::abort(); // only a short file fails
     }
-    if (!as_it_must_be)
-        std::abort();
     return 0;
 }

@@ -43,11 +43,9 @@ TEST_F(Layout, CaptionsHaveTheirTextsAndColours) {
     } labels[]{
         {"Label1", "Cirrava PAL", Qt::blue, {}},
         {"Label12", "Red", Qt::red, {}},
-        {"Label13", "Green", Qt::green, {}},
         {"Label5", "Thermal", Qt::black, Qt::green},
         {"Label18", "-110C to 49.5C in 0.5C Intervals ", Qt::black, QColor(192, 255, 255)},
         {"Label19", "-10 to 39.8 in 0.2C Intervals", Qt::black, QColor(192, 255, 255)},
-        {"Label20", "-60 to 39 in 1C intervals", Qt::black, QColor(192, 255, 255)},
         {"T1C(16)", "49.5C/121.1F", Qt::black, {}},
         {"SS(13)", "39.8C/103.64F", Qt::black, {}},
         {"hvc(5)", "39C/102.2F", Qt::black, {}},

@@ -12,8 +12,8 @@ namespace cirrava {
 
 namespace {
 
-// The toolkit takes quotes in a typed name as separators between several names; here they are part
-// of the one name.
+// Qt takes quotes in a typed name for separators between several names; here they are part of the
+// one name.
 class OneFileDialog : public QFileDialog {
 public:
     OneFileDialog(QWidget& parent, const FileQuestion& question, AcceptMode mode)
@@ -69,7 +69,7 @@ std::optional<QColor> ask_colour(QWidget& parent, const QColor& initial) {
 
 } // namespace
 
-Dialogs toolkit_dialogs(QWidget& parent) {
+Dialogs qt_dialogs(QWidget& parent) {
     return {.open =
                 [&parent](const FileQuestion& question) {
                     return OneFileDialog(parent, question, QFileDialog::AcceptOpen).ask();
