@@ -24,12 +24,12 @@ HvcPalette::HvcPalette(FileDesk& desk, const EditorState& state, ScaleControls& 
 
 void HvcPalette::generate() {
     if (create_hvc_file(final_file))
-        Picture1_.show_file(desk_.out_path);
+        show_picture();
 }
 
 void HvcPalette::refresh_preview() {
     create_hvc_file(preview_only);
-    Picture1_.show_file(preview_file);
+    show_picture();
 }
 
 void HvcPalette::brightness_changed() {
@@ -52,7 +52,7 @@ bool HvcPalette::create_hvc_file(int fromwhere) {
             desk_.out_path = preview_file;
         else if (!choose_output(desk_, {.file_name = "hvc.bmp", .title = "Create HVC Palette"}))
             return false;
-        write_image(fromwhere == final_file ? 0 : fromwhere);
+        write_image(fromwhere);
         return true;
     } catch (const Failure& failure) {
         tell_failure(desk_, "Error # ", failure, " A problem occured during file creation");
@@ -61,7 +61,8 @@ bool HvcPalette::create_hvc_file(int fromwhere) {
 }
 
 // A file that cannot be opened leaves the cells as they are; one that cannot be written does not.
-void HvcPalette::write_image(int steps) {
+void HvcPalette::write_image(int fromwhere) {
+    const int steps = fromwhere == final_file ? 0 : fromwhere;
     BinaryFile file(file_path(desk_.out_path), FileAccess::read_write);
     const std::vector<Colour> before(Label3_.colours().begin(), Label3_.colours().end());
     Label3_.set_colours(shift_brightness(before, {.levels = brightness_levels(steps),
@@ -69,7 +70,15 @@ void HvcPalette::write_image(int steps) {
                                                   .last = state_.range_end}));
     // Darker cells show from row 127 up, lighter ones from the next image on.
     file.write(hvc_image(before, steps > 0 ? Label3_.colours() : before));
+    if (fromwhere == final_file)
+        file.sync();
     file.close();
+}
+
+// The cells, as a file that is written from them holds them.
+void HvcPalette::show_picture() {
+    const Bytes image = hvc_image(Label3_.colours(), Label3_.colours());
+    Picture1_.show_image(QImage::fromData(image.data(), static_cast<int>(image.size()), "BMP"));
 }
 
 } // namespace cirrava

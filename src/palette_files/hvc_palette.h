@@ -17,7 +17,7 @@ public:
     // Writes the palette to a file that the user names, and shows it once it is written.
     void generate();
 
-    // Writes the preview file anew from the cells and shows it.
+    // Writes the preview file anew from the cells, and shows them as a picture in every case.
     void refresh_preview();
 
     // The brightness slider was moved: shifts the selected cells by as much, refreshes the preview
@@ -26,7 +26,8 @@ public:
 
 private:
     bool create_hvc_file(int fromwhere); // whether it was written
-    void write_image(int steps);
+    void write_image(int fromwhere);
+    void show_picture();
 
     FileDesk& desk_;
     const EditorState& state_;

@@ -13,6 +13,7 @@ void write(FileDesk& desk, const CellArray& cells, const SaveProposal& proposal,
             return;
         BinaryFile file(file_path(desk.out_path), FileAccess::read_write);
         file.write(row_image(cells.colours()));
+        file.sync();
         file.close();
     } catch (const Failure& failure) {
         tell_failure(desk, message_start, failure, " A problem occured during file creation");

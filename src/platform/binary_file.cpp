@@ -96,6 +96,11 @@ void BinaryFile::write(std::span<const std::uint8_t> bytes) {
         throw Failure{failure_of(last_error())};
 }
 
+void BinaryFile::sync() {
+    if (std::fflush(stream_.get()) != 0 || !sync_stream(stream_.get()))
+        throw Failure{failure_of(last_error())};
+}
+
 void BinaryFile::close() {
     if (std::fclose(stream_.release()) != 0)
         throw Failure{failure_of(last_error())};

@@ -29,6 +29,9 @@ public:
     // Writes all of `bytes` at the current place.
     void write(std::span<const std::uint8_t> bytes);
 
+    // Has all that was written put on the medium, where it outlasts a power failure.
+    void sync();
+
     // Ends the writing. Some failures, a full disk among them, may show only here: without this
     // call a file is closed too, but nobody learns of them.
     void close();

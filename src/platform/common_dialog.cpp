@@ -2,9 +2,23 @@
 
 #include "platform/failure.h"
 
+#include <QDir>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 namespace cirrava {
+
+namespace {
+
+QString writable_folder(const QString& wanted) {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    for (const QString& folder : {wanted, documents})
+        if (QFileInfo(folder).isWritable())
+            return folder;
+    return QDir::homePath();
+}
+
+} // namespace
 
 void CommonDialog::ShowOpen() {
     take_path(dialogs_.open(file_question()));
@@ -26,7 +40,7 @@ FileQuestion CommonDialog::file_question() const {
     const bool is_pattern = FileName == Filter;
     return {.title = DialogTitle,
             .filter = Filter,
-            .folder = has_folder ? file.path() : InitDir,
+            .folder = has_folder ? file.path() : writable_folder(InitDir),
             .name = is_pattern ? QString() : file.fileName()};
 }
 

@@ -15,7 +15,9 @@ public:
     QString FileName;
     QString DialogTitle;
     QString Filter;
-    QString InitDir;          // where a dialog opens when FileName has no folder
+    // Where a dialog opens when FileName has no folder; where the user may not write there, it
+    // opens in the user's documents folder or home instead.
+    QString InitDir;
     bool CancelError = false; // whether a cancel throws Failure{cancelled} or just returns
     QColor Color = Qt::black; // shown first by ShowColor; after it: the colour chosen
 

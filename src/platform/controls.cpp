@@ -50,7 +50,6 @@ QString spoken_colour(const QColor& colour) {
 
 Button::Button() {
     setFocusPolicy(Qt::StrongFocus);
-    setAutoDefault(false);
 }
 
 void Button::set_face(const QColor& face) {
@@ -78,6 +77,7 @@ void Button::paintEvent(QPaintEvent*) {
     paint_focus(painter, *this, face_.isValid() ? face_ : palette().color(QPalette::Button));
 }
 
+// Qt lets Enter press a button in dialogs only.
 void Button::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();
@@ -99,6 +99,7 @@ NumberBar::NumberBar(int maximum, int value) : QScrollBar(Qt::Horizontal) {
     setSingleStep(1);
     setPageStep(1);
     setInvertedControls(false); // right and up are more, for keys and wheel
+    setContextMenuPolicy(Qt::NoContextMenu);
     setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -146,13 +147,16 @@ PictureBox::PictureBox(QSize image_size) : image_size_(image_size) {
     give_sunken_border(*this);
 }
 
-bool PictureBox::show_file(const QString& path) {
-    const QImage image = image_in(path, image_size_);
-    if (image.isNull())
-        return false;
+void PictureBox::show_image(const QImage& image) {
     image_ = image;
     update();
-    return true;
+}
+
+bool PictureBox::show_file(const QString& path) {
+    const QImage image = image_in(path, image_size_);
+    if (!image.isNull())
+        show_image(image);
+    return !image.isNull();
 }
 
 void PictureBox::paintEvent(QPaintEvent* event) {

@@ -81,6 +81,9 @@ class PictureBox : public QFrame {
 public:
     explicit PictureBox(QSize image_size); // in pixels
 
+    // `image` must be of the box's size.
+    void show_image(const QImage& image);
+
     // Shows the image in the regular file `path`. False when that file holds no image of the box's
     // size: the box then keeps the image that it has.
     bool show_file(const QString& path);

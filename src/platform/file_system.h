@@ -17,6 +17,10 @@ enum class FileAccess {
 // pipe. Returns null and sets errno on failure.
 std::FILE* open_stream(const std::filesystem::path& path, FileAccess access);
 
+// Has the system put what was written to `stream`, and flushed, on the medium. False, with errno
+// set, on failure.
+bool sync_stream(std::FILE* stream);
+
 // Whether the system's file lists leave `path` out by default.
 bool is_hidden(const std::filesystem::path& path);
 

@@ -22,6 +22,10 @@ std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
     return stream;
 }
 
+bool sync_stream(std::FILE* stream) {
+    return ::fsync(::fileno(stream)) == 0;
+}
+
 bool is_hidden(const std::filesystem::path& path) {
     return path.filename().native().starts_with('.');
 }

@@ -19,6 +19,10 @@ std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
     return stream;
 }
 
+bool sync_stream(std::FILE* stream) {
+    return _commit(_fileno(stream)) == 0;
+}
+
 bool is_hidden(const std::filesystem::path& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES &&

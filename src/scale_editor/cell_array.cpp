@@ -56,7 +56,9 @@ QRect CellArray::cell_box(int cell) const {
 }
 
 QRect CellArray::mark(int cell) const {
-    return cell_pixels(cell, mark_inset, pitch, cell_size - 2 * mark_inset);
+    const bool last_of_row = (cell + 1) % cells_per_row == 0 || cell + 1 == cell_count(kind_);
+    return cell_pixels(cell, mark_inset, last_of_row ? cell_size : pitch,
+                       cell_size - 2 * mark_inset);
 }
 
 QRect CellArray::cell_pixels(int cell, int inset_top, int width, int height) const {
@@ -93,25 +95,30 @@ void CellArray::paintEvent(QPaintEvent* event) {
     }
 }
 
-void CellArray::mousePressEvent(QMouseEvent*) {
-    // Taken, so that the release comes here too.
+void CellArray::mousePressEvent(QMouseEvent* event) {
+    pressed_on_cells_.setFlag(event->button(), hit(*event).has_value());
 }
 
 void CellArray::mouseReleaseEvent(QMouseEvent* event) {
-    // The scale on which the button went down gets the release, wherever the pointer has gone.
-    const QPoint in_window = mapToParent(event->position().toPoint());
-    auto* const under_pointer = qobject_cast<CellArray*>(parentWidget()->childAt(in_window));
-    if (under_pointer == nullptr)
-        return;
-    const int cell = under_pointer->cell_at(under_pointer->mapFromParent(in_window));
-    if (cell >= 0)
-        emit under_pointer->cell_released(cell, event->button());
+    const auto released_over = hit(*event);
+    if (released_over && pressed_on_cells_.testFlag(event->button()))
+        emit released_over->scale->cell_released(released_over->cell, event->button());
+    pressed_on_cells_.setFlag(event->button(), false);
 }
 
 void CellArray::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
     const int cell = cell_at(event->position().toPoint());
-    if (cell >= 0)
+    if (cell >= 0 && event->button() == Qt::LeftButton)
         emit cell_double_clicked(cell);
+}
+
+std::optional<CellArray::Hit> CellArray::hit(const QMouseEvent& event) const {
+    // While a button is down, its events come here, wherever the pointer has gone.
+    const QPoint in_window = mapToParent(event.position().toPoint());
+    auto* const scale = qobject_cast<CellArray*>(parentWidget()->childAt(in_window));
+    const int cell = scale != nullptr ? scale->cell_at(scale->mapFromParent(in_window)) : -1;
+    return cell >= 0 ? std::optional(Hit{scale, cell}) : std::nullopt;
 }
 
 } // namespace cirrava

@@ -4,6 +4,7 @@
 #include "scale_editor/scale.h"
 
 #include <QWidget>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -36,16 +37,16 @@ public:
     // Where a cell takes the mouse, in this widget's pixels; a cell lies over the one before it.
     QRect cell_box(int cell) const;
 
-    // Where a cell shows its colour.
+    // Where a cell shows its colour: as wide as nothing lies over it.
     QRect mark(int cell) const;
 
     // The cell that takes the mouse at `place`; -1 outside every cell.
     int cell_at(QPoint place) const;
 
 signals:
-    // A mouse button was released over `cell`, wherever it was pressed on this or another scale.
+    // A mouse button was released over `cell`; it was pressed over a cell of this or another scale.
     void cell_released(int cell, Qt::MouseButton button);
-    void cell_double_clicked(int cell);
+    void cell_double_clicked(int cell); // with the left button
 
 protected:
     bool event(QEvent* event) override;
@@ -55,12 +56,20 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
+    struct Hit {
+        CellArray* scale;
+        int cell;
+    };
+    // The cell under the pointer, of any scale of the window.
+    std::optional<Hit> hit(const QMouseEvent& event) const;
+
     QRect cell_pixels(int cell, int inset_top, int width, int height) const;
 
     ScaleKind kind_;
     std::vector<Colour> colours_;
     int top_ = 0;
     int dpi_ = 96;
+    Qt::MouseButtons pressed_on_cells_; // and not yet released
 };
 
 } // namespace cirrava

@@ -6,12 +6,11 @@
 namespace cirrava {
 
 void ContinuationMark::paintEvent(QPaintEvent*) {
-    // Drawn on a field 12 wide and 14 high, in the middle of the box: to the right, then down.
-    QPainterPath shaft({1, 2});
-    shaft.lineTo(3, 2);
-    shaft.quadTo({7, 2}, {7, 6});
-    shaft.lineTo(7, 9);
-    const QPolygonF head{{3, 8}, {11, 8}, {7, 13}};
+    // Drawn on a field 12 wide and 14 high, in the middle of the box: down, then to the right.
+    QPainterPath shaft({2, 1});
+    shaft.lineTo(2, 5);
+    shaft.quadTo({2, 9}, {6, 9});
+    const QPolygonF head{{6, 5}, {6, 13}, {11, 9}};
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
