@@ -1,12 +1,20 @@
 #include "platform/dialogs.h"
 
+#include <QClipboard>
 #include <QColorDialog>
+#include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QStandardPaths>
 #include <QTreeView>
+#include <QUrl>
 
 namespace cirrava {
 
@@ -22,6 +30,7 @@ public:
         setOptions(DontUseNativeDialog | DontConfirmOverwrite);
         setFileMode(AnyFile);
         setAcceptMode(mode);
+        setSidebarUrls(places());
         selectFile(question.name);
         if (auto* const files = findChild<QTreeView*>("treeView"))
             files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -46,20 +55,62 @@ protected:
     }
 
 private:
+    static QList<QUrl> places() {
+        QList<QUrl> urls;
+        for (const QString& folder :
+             {QCoreApplication::applicationDirPath(), QDir::homePath(),
+              QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+              QDir::currentPath()})
+            if (const QUrl url = QUrl::fromLocalFile(folder); !urls.contains(url))
+                urls << url;
+        return urls;
+    }
+
     QString quoted_;
 };
 
-QMessageBox::StandardButton show_message(QWidget& parent, const QString& title, const QString& text,
-                                         QMessageBox::StandardButtons buttons) {
-    QMessageBox box(QMessageBox::NoIcon, title, text, buttons, &parent);
-    box.setTextFormat(Qt::PlainText);
-    if (auto* const grid = qobject_cast<QGridLayout*>(box.layout())) // wide enough for the title
-        grid->addItem(new QSpacerItem(2 * box.fontMetrics().horizontalAdvance(title), 0),
-                      grid->rowCount(), 0, 1, grid->columnCount());
-    if (buttons.testFlag(QMessageBox::Yes))
-        box.setDefaultButton(QMessageBox::Yes);
-    return static_cast<QMessageBox::StandardButton>(box.exec());
+// `text` with marks that do not show in each word wider than `width` pixels, such as a long path,
+// so that it can be broken anywhere.
+QString breakable(const QString& text, const QFontMetrics& metrics, int width) {
+    static const QRegularExpression letter("(\\X)");
+    QStringList words = text.split(u' ');
+    for (QString& word : words)
+        if (metrics.horizontalAdvance(word) > width)
+            word.replace(letter, QStringLiteral("\\1\u200B"));
+    return words.join(u' ');
 }
+
+class MessageBox : public QMessageBox {
+public:
+    MessageBox(QWidget& parent, const QString& title, const QString& text, StandardButtons buttons)
+        : QMessageBox(NoIcon, title, {}, buttons, &parent), text_(text) {
+        setTextFormat(Qt::PlainText);
+        setText(breakable(text, fontMetrics(), screen()->availableGeometry().width() / 2));
+        if (this->text() != text)
+            setTextInteractionFlags(Qt::NoTextInteraction); // the marks would be copied, too
+        if (buttons.testFlag(Yes))
+            setDefaultButton(Yes);
+        make_room_for_title(title);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->matches(QKeySequence::Copy))
+            QGuiApplication::clipboard()->setText(text_);
+        else
+            QMessageBox::keyPressEvent(event);
+    }
+
+private:
+    // In the fonts of most desktops, with an icon and the buttons of the title bar.
+    void make_room_for_title(const QString& title) {
+        const int room = 2 * fontMetrics().horizontalAdvance(title) + 10 * fontMetrics().height();
+        if (auto* const grid = qobject_cast<QGridLayout*>(layout()))
+            grid->addItem(new QSpacerItem(room, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+
+    QString text_;
+};
 
 std::optional<QColor> ask_colour(QWidget& parent, const QColor& initial) {
     const QColor colour =
@@ -70,24 +121,25 @@ std::optional<QColor> ask_colour(QWidget& parent, const QColor& initial) {
 } // namespace
 
 Dialogs qt_dialogs(QWidget& parent) {
-    return {.open =
-                [&parent](const FileQuestion& question) {
-                    return OneFileDialog(parent, question, QFileDialog::AcceptOpen).ask();
-                },
-            .save =
-                [&parent](const FileQuestion& question) {
-                    return OneFileDialog(parent, question, QFileDialog::AcceptSave).ask();
-                },
-            .colour = [&parent](const QColor& initial) { return ask_colour(parent, initial); },
-            .ask =
-                [&parent](const QString& text, const QString& title) {
-                    return show_message(parent, title, text, QMessageBox::Yes | QMessageBox::No) ==
-                           QMessageBox::Yes;
-                },
-            .tell =
-                [&parent](const QString& text) {
-                    show_message(parent, program_title, text, QMessageBox::Ok);
-                }};
+    return {
+        .open =
+            [&parent](const FileQuestion& question) {
+                return OneFileDialog(parent, question, QFileDialog::AcceptOpen).ask();
+            },
+        .save =
+            [&parent](const FileQuestion& question) {
+                return OneFileDialog(parent, question, QFileDialog::AcceptSave).ask();
+            },
+        .colour = [&parent](const QColor& initial) { return ask_colour(parent, initial); },
+        .ask =
+            [&parent](const QString& text, const QString& title) {
+                return MessageBox(parent, title, text, QMessageBox::Yes | QMessageBox::No).exec() ==
+                       QMessageBox::Yes;
+            },
+        .tell =
+            [&parent](const QString& text) {
+                MessageBox(parent, program_title, text, QMessageBox::Ok).exec();
+            }};
 }
 
 } // namespace cirrava

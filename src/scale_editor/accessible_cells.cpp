@@ -11,7 +11,11 @@ namespace cirrava {
 
 namespace {
 
-class AccessibleCell : public QAccessibleInterface {
+const QString mark_as_start = QStringLiteral("mark as start");
+const QString mark_as_end = QStringLiteral("mark as end");
+const QString copy_colour = QStringLiteral("copy colour");
+
+class AccessibleCell : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
     AccessibleCell(CellArray& cells, int cell) : cells_(&cells), cell_(cell) {}
 
@@ -45,6 +49,20 @@ public:
     QAccessibleInterface* childAt(int, int) const override { return nullptr; }
     int childCount() const override { return 0; }
     int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
+                                                    : nullptr;
+    }
+    QStringList actionNames() const override { return {mark_as_start, mark_as_end, copy_colour}; }
+    void doAction(const QString& action) override {
+        if (action == copy_colour)
+            emit cells_->cell_double_clicked(cell_);
+        else
+            emit cells_->cell_released(cell_,
+                                       action == mark_as_start ? Qt::LeftButton : Qt::RightButton);
+    }
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
     int cell() const { return cell_; }
 

@@ -3,6 +3,8 @@
 #include "scale_editor/number_text.h"
 #include "scale_editor/qt_values.h"
 
+#include <algorithm>
+
 namespace cirrava {
 
 namespace {
@@ -29,6 +31,23 @@ void RangeSelection::cell_released(ScaleKind kind, int cell, Qt::MouseButton but
     if (state_.last_scale != kind)
         other_end.setText(blank);
     state_.last_scale = kind;
+}
+
+void RangeSelection::step(Qt::MouseButton button, int cells) {
+    const auto kind = working_scale_.kind();
+    if (!kind)
+        return;
+    const auto start = cell_of(boxes_.Text1);
+    const auto end = cell_of(boxes_.Text2);
+    const int from =
+        (button == Qt::LeftButton ? start : end).value_or(start.value_or(end.value_or(0)));
+    cell_released(*kind, std::clamp(from + cells, 0, cell_count(*kind) - 1), button);
+}
+
+std::optional<int> RangeSelection::cell_of(const QLineEdit& box) const {
+    if (!numeric_value(box.text().toStdString()))
+        return std::nullopt;
+    return &box == &boxes_.Text1 ? state_.range_start : state_.range_end;
 }
 
 void RangeSelection::reset() {

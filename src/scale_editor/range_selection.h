@@ -18,6 +18,15 @@ public:
     // scale than the last blanks the opposite end.
     void cell_released(ScaleKind kind, int cell, Qt::MouseButton button);
 
+    // Moves the start (Text1) or the end (Text2) of the range by so many cells of the working
+    // scale, as a click there would, and stops at the ends of the scale. A box without a number
+    // starts from the other box's cell, or else from the first cell.
+    void step_start(int cells) { step(Qt::LeftButton, cells); }
+    void step_end(int cells) { step(Qt::RightButton, cells); }
+
+    // The cell of the working scale that `box` shows, if it shows one.
+    std::optional<int> cell_of(const QLineEdit& box) const;
+
     // Takes the whole HVC scale for the range and blanks the boxes.
     void reset();
 
@@ -26,6 +35,7 @@ public:
     bool is_complete() const;
 
 private:
+    void step(Qt::MouseButton button, int cells);
     void blank_boxes();
 
     EditorState& state_;

@@ -2,9 +2,9 @@
 
 #include "platform/controls.h"
 #include "scale_editor/cell_array.h"
+#include "scale_editor/range_box.h"
 
 #include <QLabel>
-#include <QLineEdit>
 
 namespace cirrava {
 
@@ -27,7 +27,7 @@ struct ScaleControls {
 
 // The ends of the selected range as temperatures.
 struct RangeBoxes {
-    QLineEdit Text1, Text2; // start and end, degrees Celsius
+    RangeBox Text1, Text2;  // start and end, degrees Celsius
     QLineEdit Text3, Text4; // start and end, degrees Fahrenheit
 };
 

@@ -12,6 +12,7 @@
 #include "ui/placing.h"
 
 #include <QCoreApplication>
+#include <QShortcut>
 
 namespace cirrava {
 
@@ -23,6 +24,7 @@ Cirrava::Cirrava(Dialogs dialogs) : desk_{.dialogs = std::move(dialogs)} {
     connect_colour();
     connect_files();
     connect_windows();
+    connect_history();
 }
 
 void Cirrava::load() {
@@ -56,6 +58,10 @@ void Cirrava::connect_scales() {
             [this] { range_selection_.choose_scale(ScaleKind::hvc); });
     connect(&c.Text1, &QLineEdit::textChanged, this, [&c] { show_fahrenheit(c.Text1, c.Text3); });
     connect(&c.Text2, &QLineEdit::textChanged, this, [&c] { show_fahrenheit(c.Text2, c.Text4); });
+    connect(&c.Text1, &RangeBox::stepped, this,
+            [this](int cells) { range_selection_.step_start(cells); });
+    connect(&c.Text2, &RangeBox::stepped, this,
+            [this](int cells) { range_selection_.step_end(cells); });
     connect(&c.Command1, &Button::clicked, this, [this] { range_selection_.reset(); });
 }
 
@@ -67,9 +73,11 @@ void Cirrava::connect_colour() {
     for (const auto& channel : c.channels())
         connect(&channel.slider, &NumberBar::valueChanged, this,
                 [this, channel] { current_colour_.slider_moved(channel); });
+    for (RangeBox* box : {&c.Text1, &c.Text2})
+        connect(box, &RangeBox::colour_asked, this, [this, box] { copy_colour(*box); });
     connect(&c.pickcolor, &Button::clicked, this,
             [this] { pick_colour(desk_.cdlopen, desk_.dialogs, current_colour_); });
-    connect(&c.Command2, &Button::clicked, this, [this] { apply(); });
+    connect(&c.Command2, &Button::clicked, this, [this] { history_.record([this] { apply(); }); });
 }
 
 void Cirrava::connect_files() {
@@ -79,9 +87,10 @@ void Cirrava::connect_files() {
     connect(&c.sea_command, &Button::clicked, this, [this] { write_sea(desk_, controls_.Label2); });
     connect(&c.hvc_command, &Button::clicked, this, [this] { hvc_palette_.generate(); });
     connect(&c.HScroll4, &NumberBar::valueChanged, this,
-            [this] { hvc_palette_.brightness_changed(); });
-    connect(&c.Command5, &Button::clicked, this,
-            [this] { load_palette(desk_, controls_, controls_.Picture1); });
+            [this] { history_.record([this] { hvc_palette_.brightness_changed(); }); });
+    connect(&c.Command5, &Button::clicked, this, [this] {
+        history_.record([this] { load_palette(desk_, controls_, controls_.Picture1); });
+    });
 }
 
 void Cirrava::connect_windows() {
@@ -90,6 +99,21 @@ void Cirrava::connect_windows() {
     connect(&c.Command4, &Button::clicked, this, [this] { show_palhelp(*this); });
     connect(&c.hvc_help, &Button::clicked, this, [this] { show_hvchelp(*this); });
     connect(&c.Command6, &Button::clicked, this, [] { QCoreApplication::exit(0); });
+}
+
+void Cirrava::connect_history() {
+    connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this,
+            [this] { history_.undo(); });
+    for (const char* keys : {"Ctrl+Shift+Z", "Ctrl+Y"}) // desktops differ: both bring back
+        connect(new QShortcut(QKeySequence(keys), this), &QShortcut::activated, this,
+                [this] { history_.redo(); });
+}
+
+void Cirrava::copy_colour(const QLineEdit& box) {
+    const auto kind = working_scale_.kind();
+    const auto cell = range_selection_.cell_of(box);
+    if (kind && cell)
+        current_colour_.take(controls_.cells(*kind).colour(*cell));
 }
 
 void Cirrava::apply() {

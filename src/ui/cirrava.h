@@ -2,6 +2,7 @@
 
 #include "colour/current_colour.h"
 #include "palette_files/hvc_palette.h"
+#include "scale_editor/palette_history.h"
 #include "scale_editor/range_selection.h"
 #include "ui/cirrava_controls.h"
 
@@ -21,6 +22,8 @@ private:
     void connect_colour();
     void connect_files();
     void connect_windows();
+    void connect_history();
+    void copy_colour(const QLineEdit& box);
     void apply();
 
     CirravaControls controls_;
@@ -31,6 +34,7 @@ private:
     RangeSelection range_selection_{state_, working_scale_, controls_};
     CurrentColour current_colour_{controls_};
     HvcPalette hvc_palette_{desk_, state_, controls_, controls_.Picture1};
+    PaletteHistory history_{controls_, [this] { hvc_palette_.refresh_preview(); }};
 };
 
 } // namespace cirrava

@@ -122,7 +122,8 @@ void lay_out(CirravaControls& controls, QWidget& window) {
     builder.place(tables::marks);
     builder.place(tables::lines);
     builder.place(tables::buttons);
-    builder.place(tables::boxes);
+    builder.place(tables::celsius_boxes);
+    builder.place(tables::fahrenheit_boxes);
     builder.place(tables::bars);
     builder.place(tables::swatches);
     builder.place(tables::picture_boxes);

@@ -146,9 +146,12 @@ inline constexpr Row<Button> buttons[]{
     {&C::Command6, "Command6", "Quit", {12120, 8760, 1455, 495}, window_button},
 };
 
-inline constexpr Row<QLineEdit> boxes[]{
+inline constexpr Row<RangeBox> celsius_boxes[]{
     {&C::Text1, "Text1", "Start, degrees Celsius", {480, 7560, 855, 285}, standard},
     {&C::Text2, "Text2", "End, degrees Celsius", {2280, 7560, 855, 285}, standard},
+};
+
+inline constexpr Row<QLineEdit> fahrenheit_boxes[]{
     {&C::Text3, "Text3", "Start, degrees Fahrenheit", {480, 7920, 855, 285}, standard},
     {&C::Text4, "Text4", "End, degrees Fahrenheit", {2280, 7920, 855, 285}, standard},
 };

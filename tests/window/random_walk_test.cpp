@@ -48,6 +48,16 @@ struct Model {
     QString folder = QCoreApplication::applicationDirPath(); // of the next file dialog
     QString file;
     QStringList heard;
+    QList<QList<Cells>> past, future; // as many as were undone
+
+    void step_through(QList<QList<Cells>>& from, QList<QList<Cells>>& to) {
+        if (from.isEmpty())
+            return;
+        to << cells;
+        cells = from.takeLast();
+        if (cells[hvc] != to.last()[hvc])
+            picture = files["~~temphvc.bmp"] = cells[hvc];
+    }
 
     void choose(int scale) {
         if (working != scale)
@@ -64,6 +74,16 @@ struct Model {
             boxes[1 - side] = boxes[3 - side] = " ";
         (side == 0 ? start : end) = cell;
         working = last_clicked = scale;
+    }
+
+    // Keys in a box of the range.
+    void step(Qt::MouseButton button, int by) {
+        const int other = button == Qt::LeftButton ? 1 : 0;
+        const bool from_other = boxes[1 - other].trimmed().isEmpty();
+        const bool from_first = from_other && boxes[other].trimmed().isEmpty();
+        const int from = from_first ? 0 : (other == 1) == from_other ? end : start;
+        const int last = QList{319, 249, 99}[working];
+        release(working, std::clamp(from + by, 0, last), button);
     }
 
     void take(QRgb colour) { current = {qRed(colour), qGreen(colour), qBlue(colour)}; }
@@ -151,7 +171,18 @@ protected:
         const int scale = one_in(3) ? draw(3) : model_.working;
         const int number = draw(48);
         const int channel = draw(3);
-        switch (draw(14)) {
+        const auto before = model_.cells;
+        if (one_in(8))
+            return undo_or_redo();
+        act(scale, number, channel);
+        if (model_.cells == before)
+            return;
+        model_.past << before;
+        model_.future.clear();
+    }
+
+    void act(int scale, int number, int channel) {
+        switch (draw(15)) {
         case 0:
             press_button(choosers[scale]);
             return model_.choose(scale);
@@ -183,6 +214,8 @@ protected:
         case 10:
             press_button("Command5");
             return model_.load(user.path);
+        case 11:
+            return press_key_in_box();
         default:
             return click_cells(scale);
         }
@@ -247,6 +280,31 @@ private:
         const bool wide = cell % 100 == 99 || cell == QList{319, 249, 99}[scale];
         return {8 + 8 * (cell % 100) + draw(wide ? 17 : 8),
                 QList{136, 296, 424}[scale] + cell / 100 * 32 + draw(17)};
+    }
+
+    void undo_or_redo() {
+        const bool back = one_in(2);
+        story += back ? " undo" : " redo";
+        const auto keys = back ? QKeySequence::Undo : QKeySequence::Redo;
+        QTest::keySequence(window.focusWidget(), keys);
+        model_.step_through(back ? model_.past : model_.future, back ? model_.future : model_.past);
+    }
+
+    void press_key_in_box() {
+        const bool start = one_in(2);
+        auto& text_box = find<QWidget>(start ? "Text1" : "Text2");
+        text_box.setFocus();
+        const auto [key, by] = QList<std::pair<Qt::Key, int>>{
+            {Qt::Key_Up, 1},         {Qt::Key_Down, -1},    {Qt::Key_PageUp, 10},
+            {Qt::Key_PageDown, -10}, {Qt::Key_Home, -1000}, {Qt::Key_End, 1000}}[draw(6)];
+        const bool to_end = std::abs(by) == 1000;
+        story += QString(" Text%1 %2").arg(start ? 1 : 2).arg(by);
+        QTest::keyClick(&text_box, key, to_end ? Qt::ControlModifier : Qt::NoModifier);
+        model_.step(start ? Qt::LeftButton : Qt::RightButton, by);
+        if (one_in(2))
+            return;
+        QTest::keyClick(&text_box, Qt::Key_Return);
+        model_.take(model_.cells[model_.working][start ? model_.start : model_.end]);
     }
 
     // A double click, or a press here and a release there, perhaps on no cell at all.
