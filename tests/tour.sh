@@ -14,6 +14,15 @@ save_as() {
     in_window "Ready to create"
 }
 
+# keys KEY...: presses each; 4*Tab is Tab four times.
+keys() {
+    local key
+    for key in "$@"; do
+        [[ $key == *\** ]] || key="1*$key"
+        xdotool key --repeat "${key%\**}" "${key#*\*}"
+    done
+}
+
 # expect_file FILE ROWS CELLS...: waits for the length, then compares every byte.
 expect_file() {
     /usr/bin/python3 "$tests/expected_file.py" "${@:2}" >expected
@@ -52,17 +61,18 @@ picture 1-start
 click $apply
 leave_by Return CirravaPal 2-no-range
 
-click $(thermal_cell 220)
-click $(thermal_cell 259) 3
-click $preset_9
+# By keys alone: back to the start box, cells 220 to 259, the red slider, Apply, the generate button.
+keys 8*shift+Tab ctrl+End 10*Page_Down Up Tab 4*Page_Up Down 3*Tab End
 see $swatch ff0000
-click $apply
+keys 4*Tab space
 see $(thermal_cell 220) ff0000
 see $(thermal_cell 260) 000000
 picture 3-thermal
 PYTHONPATH="$tests/../scripts" /usr/bin/python3 -B "$tests/accessible_test.py" ||
     fail "the window does not read as it must"
-save_as "$thermal_command" "Create Thermal" thermal.bmp
+keys 5*Tab Return
+choose_file "Create Thermal" "$folder/thermal.bmp"
+in_window "Ready to create"
 picture 4-write-prompt
 xdotool key Return
 expect_file thermal.bmp 1 220x000000 40xff0000 60x000000
@@ -87,30 +97,38 @@ expect_file sea.bmp 1 50xffe0bf 200x000000
 click $hvc_butt
 click $(hvc_cell 20)
 click $(hvc_cell 39) 3
+click $preset_9
 click $apply
-see $preview_of_cell_30 ffe0bf
+see $preview_of_cell_30 ff0000
 click $darker
-see $preview_of_cell_30 fadbba
-see $(hvc_cell 20) fadbba
+see $preview_of_cell_30 fa0000
 picture 6-hvc
 save_as "$hvc_command" "Create HVC Palette" hvc.bmp
 xdotool key Return
-expect_file hvc.bmp 256 20x000000 20xfadbba 60x000000
+expect_file hvc.bmp 256 20x000000 20xfa0000 60x000000
 
 click $load
 choose_file "Read and Load palette" "$folder/hvc.bmp"
 in_window "Cirrava PAL"
-see $(hvc_cell 20) f8d9b8
-see $preview_of_cell_30 fadbba
+see $(hvc_cell 20) f80000
+see $preview_of_cell_30 fa0000
+keys 2*ctrl+z
+see $(hvc_cell 20) ff0000
+see $preview_of_cell_30 ff0000
+keys ctrl+z
+see $(hvc_cell 20) 000000
+keys ctrl+shift+z ctrl+y
+see $(hvc_cell 20) fa0000
+picture 7-undone
 
 click $pickcolor
-leave_by Escape "Select Color" 7-colour-dialog
+leave_by Escape "Select Color" 8-colour-dialog
 click $how_to_use
-leave_by "Tab space" "Cirrava PAL How To" 8-how-to-use
+leave_by "Tab space" "Cirrava PAL How To" 9-how-to-use
 click $hvc_help
-leave_by "Tab space" "About HVC Palette" 9-about-hvc
+leave_by "Tab space" "About HVC Palette" 10-about-hvc
 click $about
-leave_by Escape "About CirravaPal" 10-about
+leave_by Escape "About CirravaPal" 11-about
 
 click $quit
 wait "$program_id" || fail "the program ended with status $?"

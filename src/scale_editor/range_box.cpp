@@ -27,16 +27,6 @@ constexpr std::array steps{
 
 } // namespace
 
-bool RangeBox::event(QEvent* event) {
-    // A line edit keeps Undo and Redo for its own text; here they belong to the window.
-    if (event->type() == QEvent::ShortcutOverride) {
-        const auto* const key = static_cast<QKeyEvent*>(event);
-        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo))
-            return false;
-    }
-    return QLineEdit::event(event);
-}
-
 void RangeBox::keyPressEvent(QKeyEvent* event) {
     for (const auto& [key, modifiers, cells] : steps)
         if (event->key() == key && (event->modifiers() & ~Qt::KeypadModifier) == modifiers)

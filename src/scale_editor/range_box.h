@@ -17,7 +17,6 @@ signals:
     void colour_asked();
 
 protected:
-    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
 
