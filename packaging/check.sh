@@ -27,8 +27,9 @@ check_versions() {
         "$(dpkg-parsechangelog --file "$packaging/changelog" --show-field Version)" "$version"
     same "the metainfo" "$(first_match '<release (.*)>' "$packaging/$id.metainfo.xml")" \
         "version=\"$short\" date=\"$(date --date "$date" +%F)\""
-    same "CHANGELOG.md" "$(first_match '^## ([0-9.]+)' "$top/CHANGELOG.md")" "$short"
-    same "the manual page" "$(first_match '"Cirrava PAL (.*)" ' "$packaging/cirrava-pal.1")" "$short"
+    same "CHANGELOG.md" "$(first_match '^## (.*)' "$top/CHANGELOG.md")" "$short ($(date --date "$date" +%F))"
+    same "the manual page" "$(first_match ' 1 (.*) "User' "$packaging/cirrava-pal.1")" \
+        "$(date --date "$date" +%F) \"Cirrava PAL $short\""
 }
 
 # check_files WHAT FOLDER

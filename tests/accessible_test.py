@@ -1,7 +1,6 @@
-"""Reads the running program's window over the accessibility bus, as a screen reader does.
-
-The Thermal cells 221 to 260, counted from 1, must be red.
-"""
+# Reads the running program's window over the accessibility bus, as a screen reader does.
+#
+# The Thermal cells 221 to 260, counted from 1, must be red.
 
 from accessible import Atspi, children, window
 

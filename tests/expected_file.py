@@ -1,7 +1,6 @@
-"""Writes the bytes of a palette file, put together independently of the program.
-
-expected_file.py ROWS COUNTxRRGGBB...: the cells, coldest first; 1 row, or 256 for HVC.
-"""
+# Writes the bytes of a palette file, put together independently of the program.
+#
+# expected_file.py ROWS COUNTxRRGGBB...: the cells, coldest first; 1 row, or 256 for HVC.
 
 import struct
 import sys

@@ -2,8 +2,7 @@
 
 namespace cirrava {
 
-// The numbers by which a failed file or dialog action is reported to the user: the classic run-time
-// error numbers of desktop programs, so that old advice about an "Error 75" still holds.
+// The numbers by which a failed file or dialog action is reported to the user.
 enum class FailureNumber : int {
     bad_file_name = 52,  // empty, too long, or with characters that no name may have
     file_not_found = 53, // the folder is there, the file is not

@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QScreen>
@@ -34,6 +35,9 @@ public:
         selectFile(question.name);
         if (auto* const files = findChild<QTreeView*>("treeView"))
             files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        if (auto* const places =
+                findChild<QListView*>("sidebar")) // Qt looks at its first name only
+            places->setMinimumWidth(places->sizeHintForColumn(0) + 2 * places->frameWidth());
     }
 
     std::optional<QString> ask() {

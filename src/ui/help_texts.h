@@ -13,10 +13,10 @@ inline constexpr char how_to_use_text[] =
 3. Procedure :
 
 a. Set the temperature range on the scale:
-Left click on the scale to set the start of the range, right click to set its end. Rest the pointer on the scale to read its temperatures. A range may be a single temperature, for example "0" degrees C: left click and right click the same place.
+Left click on the scale to set the start of the range, right click to set its end. Rest the pointer on the scale to read its temperatures. A range may be a single temperature, for example "0" degrees C: left click and right click the same place. With the keyboard, go to the Start and End boxes and press the arrow keys, Page Up or Page Down.
 
 b. Set the Color for selected range:
-Choose a colour in the bottom part of the screen, with the easy color pick buttons or, for custom colours, with the yellow button. Adjust it with the red, green and blue sliders, and see it in the sample area on the right. Then click the "Apply Color" button.
+Choose a colour in the bottom part of the screen, with the easy color pick buttons or, for custom colours, with the yellow "Advanced Color Picker" button. Adjust it with the red, green and blue sliders, and see it in the sample area on the right. Then click the "Apply Color" button. Ctrl+Z takes a change back, Ctrl+Y brings it back.
 
 c. Copy color from one area to another:
 Double click on a scale to copy the colour of that place into the sample area. From there you can apply it to any range of any scale.
@@ -30,7 +30,7 @@ Click "Load From File" to read a bmp file made by Cirrava PAL (or an identical b
 f. Tell Cirrava to use your new CLUT file
 Configure Cirrava's image and movie options to use the files that you generated.
 
-g. The HVC palette can be previewed in two dimensions before you generate its file. Select a range with left and right clicks and slide the brightness bar: towards "Darker" or "Lighter", the further the more. With no range selected (click "Reset") the change applies to the whole scale. The image is shown at once. The yellow button beside the scale gives more information.
+g. The HVC palette can be previewed in two dimensions before you generate its file. Select a range with left and right clicks and slide the brightness bar: towards "Darker" or "Lighter", the further the more. With no range selected (click "Reset") the change applies to the whole scale. The image is shown at once, and kept in the file ~~temphvc.bmp in the current folder; when that file cannot be written, start Cirrava PAL in a folder of your own. The yellow button beside the scale gives more information.
 
 In Future versions
 1. A small scale embedded in the final images.
@@ -53,13 +53,13 @@ Several corrections. The buttons that select the current working scale were adde
 inline constexpr char hvc_text[] =
     R"(HVC Palette
 
-The HVC palette is two-dimensional, whereas the others are single.
+The HVC palette is two-dimensional, whereas the others are one-dimensional.
 
 Its horizontal columns stand for temperatures from -60 to +39 degrees C, in steps of 1 degree. Vertically it stands for the luminosity (brightness) of the visible-channel image that Cirrava generates.
 
 Set the colours in the scale, and the preview follows. Once you are satisfied, generate the HVC palette file.
 
-The sliding bar increases or decreases the intensity of the colours.
+The sliding bar increases or decreases the intensity of the colours of the marked range.
 
 The "How to Use" button gives more information.
 )";

@@ -1,8 +1,10 @@
 #include "window_fixture.h"
 
+#include <QClipboard>
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QScreen>
 
 namespace cirrava {
 
@@ -31,9 +33,13 @@ TEST(RealDialogs, AFileNameComesBackAsTypedWithoutAQuestion) {
 TEST(RealDialogs, MessagesShowPlainTextAndYesIsTheDefault) {
     QWidget parent;
     const Dialogs dialogs = qt_dialogs(parent);
-    const QString text = "Write /tmp/<b>a</b> & \"b\".bmp?";
+    const QString text = "Write /tmp/<b>a</b> & \"" + QString(2000, 'b') + "\".bmp?";
     in_next<QMessageBox>([&](QMessageBox& box) {
-        EXPECT_EQ(box.text(), text);
+        QTest::keySequence(&box, QKeySequence::Copy);
+        EXPECT_EQ(QApplication::clipboard()->text(), text);
+        const auto& label = find_in<QLabel>(box, "qt_msgbox_label");
+        EXPECT_GE(label.height(), label.heightForWidth(label.width()));
+        EXPECT_LT(box.width(), box.screen()->availableGeometry().width());
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
         EXPECT_EQ(box.windowTitle(), "Ready to create");
         QTest::keyClick(&box, Qt::Key_Return);

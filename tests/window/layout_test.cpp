@@ -44,7 +44,6 @@ TEST_F(Layout, CaptionsHaveTheirTextsAndColours) {
         {"Label1", "Cirrava PAL", Qt::blue, {}},
         {"Label12", "Red", Qt::red, {}},
         {"Label5", "Thermal", Qt::black, Qt::green},
-        {"Label18", "-110C to 49.5C in 0.5C Intervals ", Qt::black, QColor(192, 255, 255)},
         {"Label19", "-10 to 39.8 in 0.2C Intervals", Qt::black, QColor(192, 255, 255)},
         {"T1C(16)", "49.5C/121.1F", Qt::black, {}},
         {"SS(13)", "39.8C/103.64F", Qt::black, {}},
@@ -115,6 +114,7 @@ TEST_F(Layout, CellsAreCrispAndTouch) {
         return qRound((thermal().x() + thermal().cell_box(cell).x()) * picture.devicePixelRatio());
     };
     const int y = qRound((thermal().y() + 8) * picture.devicePixelRatio());
+    EXPECT_EQ(thermal().mark(99).right(), thermal().rect().right());
     for (int x = edge_of(0); x < edge_of(3); ++x) {
         const bool red = x >= edge_of(1) && x < edge_of(2);
         EXPECT_EQ(picture.pixelColor(x, y), red ? Qt::red : Qt::black) << x;

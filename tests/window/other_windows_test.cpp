@@ -79,7 +79,9 @@ TEST_F(OtherWindows, SystemInfoStartsTheDesktopsProgramOrSaysThatThereIsNone) {
             told = box.text();
             box.accept();
         });
-        find_in<Button>(about, "cmdSysInfo").click();
+        QTest::keyClick(about.focusWidget(), Qt::Key_Tab);
+        EXPECT_TRUE(find_in<Button>(about, "cmdSysInfo").isDefault());
+        QTest::keyClick(about.focusWidget(), Qt::Key_Return);
         EXPECT_EQ(told, "System Information Is Unavailable At This Time");
 
         QFile program(folder.filePath("mate-system-monitor"));

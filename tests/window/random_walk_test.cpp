@@ -307,25 +307,29 @@ private:
         model_.take(model_.cells[model_.working][start ? model_.start : model_.end]);
     }
 
-    // A double click, or a press here and a release there, perhaps on no cell at all.
+    // A double click, or a press here and a release there, which counts only from cell to cell.
     void click_cells(int scale) {
         const auto button = QList{Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}[draw(3)];
         int cell = any_cell(scale);
         auto* const system_window = window.windowHandle();
         if (one_in(5)) {
-            QTest::mouseDClick(system_window, Qt::LeftButton, {}, point_of(scale, cell));
-            model_.take(model_.cells[scale][cell]);
-            return model_.release(scale, cell, Qt::LeftButton);
+            QTest::mouseDClick(system_window, button, {}, point_of(scale, cell));
+            if (button == Qt::LeftButton)
+                model_.take(model_.cells[scale][cell]);
+            return model_.release(scale, cell, button);
         }
-        QTest::mousePress(system_window, button, {}, point_of(scale, cell));
-        if (one_in(8))
-            return QTest::mouseRelease(system_window, button, {}, {9, 290}); // between two scales
+        const QPoint between_rows(9, 290);
+        const int outside = draw(16); // 0: where it is pressed, 1: where it is released
+        const QPoint press = outside == 0 ? between_rows : point_of(scale, cell);
+        QTest::mousePress(system_window, button, {}, press);
         if (one_in(4)) {
             scale = draw(3);
             cell = any_cell(scale);
         }
-        QTest::mouseRelease(system_window, button, {}, point_of(scale, cell));
-        model_.release(scale, cell, button);
+        const QPoint release = outside == 1 ? between_rows : point_of(scale, cell);
+        QTest::mouseRelease(system_window, button, {}, release);
+        if (outside > 1)
+            model_.release(scale, cell, button);
     }
 
     void press_button(const QString& name) {
