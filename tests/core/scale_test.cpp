@@ -19,7 +19,6 @@ TEST(Scale, NamesTheTemperaturesOfItsCells) {
         {thermal, 0, "-110.0", "-110C/-166F", "(1) -110.0Celcius / -166Farenheit"},
         {thermal, 219, "-0.5", "-0.5C/31.1F", "(220) -0.5Celcius / 31.1Farenheit"},
         {sea, 249, "39.8", "39.8C/103.64F", "(250) 39.8Celcius / 103.64Farenheit"},
-        {hvc, 0, "-60", "-60C/-76F", "(1) -60Celcius / -76Farenheit"},
         {hvc, 99, "39", "39C/102.2F", "(100) 39Celcius / 102.2Farenheit"},
     };
     for (const auto& expected : cases) {
@@ -31,7 +30,6 @@ TEST(Scale, NamesTheTemperaturesOfItsCells) {
 
 TEST(Scale, OnlyOneWholeDecimalNumberIsNumeric) {
     EXPECT_EQ(numeric_value("  39.8 "), 39.8);
-    EXPECT_EQ(numeric_value("+5"), 5.0);
     for (const char* text : {"", "   ", "-", "1 2", "12C", "1,5", "+-5", "inf", "nan"})
         EXPECT_EQ(numeric_value(text), std::nullopt) << '"' << text << '"';
 }

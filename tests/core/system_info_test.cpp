@@ -43,8 +43,8 @@ TEST(SystemInfo, StartsTheNamedProgramOrTheOneInTheNamedFolder) {
         StartSysInfo({registry, start_program, [&] { outcome += "?"; }});
         return outcome;
     };
-    std::string folder = (std::filesystem::temp_directory_path() / "cirrava-XXXXXX").string();
-    ASSERT_NE(mkdtemp(folder.data()), nullptr);
+    std::string name = (std::filesystem::temp_directory_path() / "cirrava-XXXXXX").string();
+    const std::string folder = mkdtemp(name.data());
     EXPECT_EQ(start(), "?");
     values[system_info_folder.key] = folder;
     EXPECT_EQ(start(), "?");

