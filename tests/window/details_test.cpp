@@ -47,8 +47,8 @@ TEST_F(Details, DamagedFilesAreToldAndLoadAsFarAsTheyGo) {
         {row_image(grey), not_ours, 0, 0},
         {cut(thermal_file, 54 + 100 * 3), "", RGB(1, 2, 3), 0},
         {cut(hvc_file, 54 + 127 * 300 - 1), "Error # 62 Cannot Read File", RGB(1, 2, 3), 0},
-        {unknown_compression, "Error # 481 Cannot Read File", RGB(1, 2, 3), RGB(88, 88, 88)},
         {cut(hvc_file, 54 + 127 * 300), "", RGB(1, 2, 3), RGB(88, 88, 88)},
+        {unknown_compression, "Error # 481 Cannot Read File", RGB(1, 2, 3), RGB(88, 88, 88)},
     };
     for (const auto& [bytes, told, thermal_99, hvc_99] : files) {
         SCOPED_TRACE(bytes.size());
