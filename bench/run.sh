@@ -6,6 +6,7 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$here/scripts/screen.sh"
 
 install_packages "${build_packages[@]}" "${screen_packages[@]}" libbenchmark-dev
+on_private_bus "$@" # without a bus, each start would open one of its own
 cmake -S "$here" --preset bench
 cmake --build "$here/build/bench"
 folder=$here/build/bench

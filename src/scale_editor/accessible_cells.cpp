@@ -74,22 +74,23 @@ private:
 class AccessibleCells : public QAccessibleWidget {
 public:
     explicit AccessibleCells(CellArray& cells)
-        : QAccessibleWidget(&cells, QAccessible::List), cells_(cells) {
-        for (int cell = 0; cell < cell_count(cells.kind()); ++cell)
-            children_.push_back(
-                QAccessible::registerAccessibleInterface(new AccessibleCell(cells, cell)));
-    }
+        : QAccessibleWidget(&cells, QAccessible::List), cells_(cells),
+          children_(static_cast<std::size_t>(cell_count(cells.kind()))) {}
     ~AccessibleCells() override {
         for (const QAccessible::Id child : children_)
-            QAccessible::deleteAccessibleInterface(child);
+            if (child != 0)
+                QAccessible::deleteAccessibleInterface(child);
     }
 
     int childCount() const override { return static_cast<int>(children_.size()); }
 
     QAccessibleInterface* child(int index) const override {
-        return index >= 0 && index < childCount()
-                   ? QAccessible::accessibleInterface(children_[static_cast<std::size_t>(index)])
-                   : nullptr;
+        if (index < 0 || index >= childCount())
+            return nullptr;
+        QAccessible::Id& child = children_[static_cast<std::size_t>(index)];
+        if (child == 0)
+            child = QAccessible::registerAccessibleInterface(new AccessibleCell(cells_, index));
+        return QAccessible::accessibleInterface(child);
     }
 
     QAccessibleInterface* childAt(int x, int y) const override {
@@ -102,8 +103,8 @@ public:
     }
 
 private:
-    const CellArray& cells_;
-    std::vector<QAccessible::Id> children_;
+    CellArray& cells_;
+    mutable std::vector<QAccessible::Id> children_; // made when asked for; 0 before
 };
 
 } // namespace

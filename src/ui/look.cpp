@@ -1,6 +1,7 @@
 #include "ui/look.h"
 
 #include <QApplication>
+#include <QImageReader>
 #include <QPalette>
 #include <QProxyStyle>
 
@@ -8,13 +9,11 @@ namespace cirrava {
 
 namespace {
 
-// Named, so that Qt need not look at the bytes to find the format.
-const char* const png = "PNG";
-
-// The named families where present, else near equivalents.
-const QStringList sans_families{"MS Sans Serif", "Liberation Sans", "Arial", "DejaVu Sans"};
-const QStringList narrow_families{"Arial Narrow", "Liberation Sans Narrow", "Arial", "DejaVu Sans"};
-const QStringList arial_families{"Arial", "Liberation Sans", "DejaVu Sans"};
+// Of fonts of the same widths, the one that most systems without the other have comes first: where
+// a family is missing, the font system searches and sorts for it at length.
+const QStringList sans_families{"Liberation Sans", "Arial", "MS Sans Serif", "DejaVu Sans"};
+const QStringList narrow_families{"Liberation Sans Narrow", "Arial Narrow", "Arial", "DejaVu Sans"};
+const QStringList arial_families{"Liberation Sans", "Arial", "DejaVu Sans"};
 
 const QStringList& families(FontFamily family) {
     switch (family) {
@@ -26,6 +25,13 @@ const QStringList& families(FontFamily family) {
         break;
     }
     return sans_families;
+}
+
+// Without a look at its bytes, for which Qt would load all its image plugins.
+QImage read_png(const QString& file) {
+    QImageReader reader(file, "PNG");
+    reader.setAutoDetectImageFormat(false);
+    return reader.read();
 }
 
 class ProgramStyle : public QProxyStyle {
@@ -114,7 +120,7 @@ QPixmap program_picture(double scale) {
     const char* const file = scale <= 1   ? ":/picture.png"
                              : scale <= 2 ? ":/picture@2x.png"
                                           : ":/picture@3x.png";
-    QImage image(file, png);
+    QImage image = read_png(file);
     const QSize size = (QSizeF(72, 96) * scale).toSize();
     if (image.size() != size)
         image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -125,7 +131,7 @@ QPixmap program_picture(double scale) {
 QIcon program_icon() {
     QIcon icon;
     for (const int size : {16, 32, 64}) // a title bar asks for no larger one
-        icon.addPixmap(QPixmap(QString(":/icon-%1.png").arg(size), png));
+        icon.addPixmap(QPixmap::fromImage(read_png(QString(":/icon-%1.png").arg(size))));
     return icon;
 }
 
