@@ -178,7 +178,7 @@ private:
                 model_.take(model_.cells[scale][cell]);
             return model_.release(scale, cell, button);
         }
-        const QPoint between_rows(9, 290);
+        const QPoint between_rows(9, 160);
         const int outside = draw(16); // 0: where it is pressed, 1: where it is released
         const QPoint press = outside == 0 ? between_rows : point_of(scale, cell);
         QTest::mousePress(system_window, button, {}, press);
