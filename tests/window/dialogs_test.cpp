@@ -36,7 +36,7 @@ TEST(RealDialogs, MessagesShowPlainTextAndYesIsTheDefault) {
     in_next<QMessageBox>([&](QMessageBox& box) {
         QTest::keySequence(&box, QKeySequence::Copy);
         EXPECT_EQ(QApplication::clipboard()->text(), text);
-        const auto& label = find_in<QLabel>(box, "qt_msgbox_label");
+        auto& label = find_in<QLabel>(box, "qt_msgbox_label");
         EXPECT_GE(label.height(), label.heightForWidth(label.width()));
         EXPECT_LT(box.width(), box.screen()->availableGeometry().width());
         EXPECT_EQ(box.textFormat(), Qt::PlainText);

@@ -51,7 +51,7 @@ template <class Dialog> void in_next(std::function<void(Dialog&)> action) {
 }
 
 // The control of that name.
-template <class Control> Control& find_in(const QWidget& window, QString name) {
+template <class Control> Control& find_in(const QWidget& window, const QString& name) {
     auto* const control = window.findChild<Control*>(name);
     if (control == nullptr)
         throw std::runtime_error("no control " + name.toStdString());
