@@ -35,9 +35,8 @@ public:
         selectFile(question.name);
         if (auto* const files = findChild<QTreeView*>("treeView"))
             files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-        if (auto* const places =
-                findChild<QListView*>("sidebar")) // Qt looks at its first name only
-            places->setMinimumWidth(places->sizeHintForColumn(0) + 2 * places->frameWidth());
+        if (auto* const side_bar = findChild<QListView*>("sidebar")) // as wide as its widest name
+            side_bar->setMinimumWidth(side_bar->sizeHintForColumn(0) + 2 * side_bar->frameWidth());
     }
 
     std::optional<QString> ask() {
@@ -65,7 +64,8 @@ private:
              {QCoreApplication::applicationDirPath(), QDir::homePath(),
               QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
               QDir::currentPath()})
-            if (const QUrl url = QUrl::fromLocalFile(folder); !urls.contains(url))
+            if (const QUrl url = QUrl::fromLocalFile(folder);
+                QFileInfo(folder).isDir() && !urls.contains(url))
                 urls << url;
         return urls;
     }
