@@ -48,6 +48,7 @@ public:
         place(Command1_, *this, "Command1", box);
         dress(Command1_, {.font = font});
         Command1_.setText(caption);
+        Command1_.setAutoDefault(false); // Enter in the text does not press it
     }
 
 protected:
