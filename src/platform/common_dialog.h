@@ -9,6 +9,7 @@ namespace cirrava {
 class CommonDialog {
 public:
     explicit CommonDialog(const Dialogs& dialogs) : dialogs_(dialogs) {}
+    Q_DISABLE_COPY_MOVE(CommonDialog)
 
     // Before a file dialog: the name to propose, with or without a folder; a pattern such as
     // "*.bmp" proposes none. After it: the full path chosen.
