@@ -66,8 +66,7 @@ private:
 void show_palhelp(QWidget& parent) {
     HelpWindow window(parent, "palhelp", "Cirrava PAL How To", {0, 0, 10170, 9255});
     window.setWindowIcon(parent.windowIcon());
-    window.place_text(how_to_use_text, {240, 240, 9375, 8175}, dark_green,
-                      {.family = FontFamily::arial, .points = 12});
+    window.place_text(how_to_use_text, {240, 240, 9375, 8175}, dark_green, {.points = 12});
     window.place_button("Exit", {3600, 8520, 2295, 615}, {});
     window.exec();
 }
@@ -80,8 +79,7 @@ void show_hvchelp(QWidget& parent) {
           {.font = {
                .family = FontFamily::narrow, .points = 14.25, .bold = true, .underlined = true}});
     Label1.setText("Information about HVC Palette");
-    window.place_text(hvc_text, {120, 840, 4335, 5175}, green,
-                      {.family = FontFamily::arial, .points = 9.75});
+    window.place_text(hvc_text, {120, 840, 4335, 5175}, green, {.points = 9.75});
     window.place_button("QUIT", {1320, 6240, 1935, 495}, {.family = FontFamily::narrow});
     fit_captions(window);
     window.exec();

@@ -9,23 +9,11 @@ namespace cirrava {
 
 namespace {
 
-// Of fonts of the same widths, the one that most systems without the other have comes first: where
-// a family is missing, the font system searches and sorts for it at length.
-const QStringList sans_families{"Liberation Sans", "Arial", "MS Sans Serif", "DejaVu Sans"};
+// Outline fonts only, since captions are scaled and stretched. Of fonts of the same widths, the one
+// that most systems without the other have comes first: where a family is missing, the font system
+// searches and sorts for it at length.
+const QStringList sans_families{"Liberation Sans", "Arial", "DejaVu Sans"};
 const QStringList narrow_families{"Liberation Sans Narrow", "Arial Narrow", "Arial", "DejaVu Sans"};
-const QStringList arial_families{"Liberation Sans", "Arial", "DejaVu Sans"};
-
-const QStringList& families(FontFamily family) {
-    switch (family) {
-    case FontFamily::narrow:
-        return narrow_families;
-    case FontFamily::arial:
-        return arial_families;
-    case FontFamily::sans:
-        break;
-    }
-    return sans_families;
-}
 
 // Without a look at its bytes, for which Qt would load all its image plugins.
 QImage read_png(const QString& file) {
@@ -73,7 +61,7 @@ QPalette light_palette() {
 
 QFont to_font(const FontLook& look) {
     QFont font;
-    font.setFamilies(families(look.family));
+    font.setFamilies(look.family == FontFamily::narrow ? narrow_families : sans_families);
     font.setPointSizeF(look.points);
     font.setBold(look.bold);
     font.setUnderline(look.underlined);

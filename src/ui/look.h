@@ -10,7 +10,7 @@ class QApplication;
 // How the program looks, on every desktop the same: colours are judged against a neutral ground.
 namespace cirrava {
 
-enum class FontFamily { sans, narrow, arial };
+enum class FontFamily { sans, narrow };
 
 struct FontLook {
     FontFamily family = FontFamily::sans;
