@@ -135,8 +135,8 @@ void lay_out(CirravaControls& controls, QWidget& window) {
 
     controls.Image1.setPixmap(program_picture(window.devicePixelRatioF()));
     controls.Image1.setAccessibleName("A satellite above the earth");
-    controls.Label1.setIndent(controls.Label1.fontMetrics().averageCharWidth() /
-                              2); // off the picture
+    const int off_the_picture = controls.Label1.fontMetrics().averageCharWidth() / 2;
+    controls.Label1.setContentsMargins(off_the_picture, 0, 0, 0);
     controls.Command2.setToolTip("Click to apply color to range selected");
     set_tab_order(controls);
 }
