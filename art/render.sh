@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Renders the SVG masters in this folder to the PNG files used by the program.
-# Needs rsvg-convert (Debian package librsvg2-bin).
+# Renders the SVG masters in this folder to the PNG files used by the program, and the icon of the
+# program for Windows. Needs rsvg-convert and convert (Debian packages librsvg2-bin and imagemagick).
 set -euo pipefail
 
 art="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
@@ -18,3 +18,4 @@ render picture.svg 216 288 picture@3x.png
 for size in 16 32 48 64 128 256; do
     render icon.svg "$size" "$size" "icon-$size.png"
 done
+convert "$out"/icon-{16,32,48,64,256}.png "$art/../packaging/windows/cirrava-pal.ico"

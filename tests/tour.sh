@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # The typical use of the built program, by real clicks and keys on a private screen of a dark desktop.
+# A program for Windows runs under Wine.
 # tour.sh PROGRAM [FOLDER]: leaves pictures and palette files in FOLDER, an empty one; in one of its
 # own without, which it keeps only when it fails.
 set -euo pipefail
@@ -10,7 +11,7 @@ tests=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # save_as BUTTON DIALOG-TITLE FILE: up to the prompt.
 save_as() {
     click $1
-    choose_file "$2" "$folder/$3"
+    choose_file "$2" "$drive$folder/$3"
     in_window "Ready to create"
 }
 
@@ -40,7 +41,12 @@ leave_by() {
 }
 
 on_private_bus "$@"
-program=$(realpath "$1")
+program=("$(realpath "$1")")
+drive=
+if [[ $1 == *.exe ]]; then # Wine has these files on a drive, and no accessibility bus
+    program=(wine "${program[@]}")
+    drive=Z:
+fi
 folder=$(realpath "${2:-$(mktemp --directory)}")
 open_screen
 open_accessibility_bus
@@ -49,7 +55,7 @@ mkdir home
 printf '[Colors:%s]\nBackgroundNormal=35,38,41\nForegroundNormal=252,252,252\n' \
     Window Button View Tooltip >home/kdeglobals
 env HOME="$folder/home" XDG_CONFIG_HOME="$folder/home" XDG_CURRENT_DESKTOP=KDE \
-    KDE_SESSION_VERSION=5 "$program" &
+    KDE_SESSION_VERSION=5 "${program[@]}" &
 program_id=$!
 started+=("$program_id")
 in_window "Cirrava PAL"
@@ -67,10 +73,10 @@ see $swatch ff0000
 keys 4*Tab space
 see $(thermal_cell 220) ff0000
 picture 3-thermal
-PYTHONPATH="$tests/../scripts" /usr/bin/python3 -B "$tests/accessible_test.py" ||
+[[ -n $drive ]] || PYTHONPATH="$tests/../scripts" /usr/bin/python3 -B "$tests/accessible_test.py" ||
     fail "the window does not read as it must"
 keys 5*Tab Return
-choose_file "Create Thermal" "$folder/thermal.bmp"
+choose_file "Create Thermal" "$drive$folder/thermal.bmp"
 in_window "Ready to create"
 picture 4-write-prompt
 xdotool key Return
@@ -106,7 +112,7 @@ xdotool key Return
 expect_file hvc.bmp 256 20x000000 20xfa0000 60x000000
 
 click $load
-choose_file "Read and Load palette" "$folder/hvc.bmp"
+choose_file "Read and Load palette" "$drive$folder/hvc.bmp"
 in_window "Cirrava PAL"
 see $(hvc_cell 20) f80000
 keys 2*ctrl+z

@@ -1,0 +1,63 @@
+#!/usr/bin/env bash
+# Makes the program for Windows, on Debian, with Qt in it: FOLDER/cirrava-pal.exe
+# make.sh [FOLDER]: build/windows without. Qt itself is built there once, from the source of the version
+# that Debian has, and used again: some 20 minutes.
+set -euo pipefail
+windows=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+top=$(realpath "$windows/../..")
+. "$top/scripts/packages.sh"
+
+# What the program never asks of Qt or what the cross compiler lacks, and the system's libraries, for
+# which Qt has sources of its own.
+features_off=(concurrent dbus direct2d1_1 directwrite3 fontconfig gif glib icu jpeg macdeployqt network
+    opengl opengl_dynamic pdf printsupport qmake sessionmanager sql tabletevent testlib vulkan
+    windeployqt xml zstd
+    system_{doubleconversion,freetype,harfbuzz,libb2,pcre2,png,textmarkdownreader,zlib})
+
+# Asks the machine's own Debian archives for sources, with lists of ours beside those of the machine.
+fetch_qt() {
+    local apt=(apt-get --option "Dir::State=$folder/apt" --option "Dir::Cache=$folder/apt"
+        --option "Dir::Etc::SourceList=$folder/apt/sources.list" --option Dir::Etc::SourceParts=/dev/null)
+    mkdir -p "$folder/apt/lists/partial"
+    apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) $(COMPONENT)' \
+        'Created-By: Packages' 'Origin: Debian' >"$folder/apt/sources.list"
+    "${apt[@]}" update
+    (cd "$folder/apt" && "${apt[@]}" --download-only source "qt6-base=$version")
+    rm -rf "$folder/source"
+    dpkg-source --no-copy --extract "$folder"/apt/*.dsc "$folder/source"
+}
+
+# Qt's dialogs keep histories among the settings of programs, which are in the registry on Windows, and
+# nothing that a program can tell Qt keeps them out: this Qt finds no place for such settings.
+keep_out_of_registry() {
+    local file=$folder/source/src/corelib/io/qsettings_win.cpp
+    sed --in-place 's/if (!organization.isEmpty()) {/if (false) {/' "$file"
+    [[ $(grep --count 'if (false) {' "$file") == 1 ]]
+}
+
+build_qt() {
+    local off=("${features_off[@]/#/-DFEATURE_}")
+    fetch_qt
+    keep_out_of_registry
+    cmake -S "$folder/source" -B "$folder/qt-build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
+        -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$qt" -DBUILD_SHARED_LIBS=OFF \
+        -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(gcc -print-multiarch)/cmake" \
+        -DQT_QMAKE_TARGET_MKSPEC=win32-g++ -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF \
+        -DINPUT_opengl=no "${off[@]/%/=OFF}"
+    cmake --build "$folder/qt-build"
+    DESTDIR=$folder/stage cmake --install "$folder/qt-build"
+    mv "$folder/stage$qt" "$qt" # only when all of it is there
+    rm -r "$folder"/{apt,source,qt-build,stage}
+}
+
+install_packages "${build_packages[@]}" "${windows_packages[@]}"
+mkdir -p "${1:-$top/build/windows}"
+folder=$(realpath "${1:-$top/build/windows}")
+version=$(dpkg-query --show --showformat='${source:Version}' qt6-base-dev)
+toolchain=$windows/mingw.cmake
+qt=$folder/qt-$version
+[[ -d $qt ]] || build_qt
+cmake -S "$top" --preset release -B "$folder/build" -DQT_CHAINLOAD_TOOLCHAIN_FILE="$toolchain" \
+    -DCMAKE_TOOLCHAIN_FILE="$qt/lib/cmake/Qt6/qt.toolchain.cmake"
+cmake --build "$folder/build"
+x86_64-w64-mingw32-strip -o "$folder/cirrava-pal.exe" "$folder/build/cirrava-pal.exe"
