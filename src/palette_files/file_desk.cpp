@@ -2,6 +2,7 @@
 
 #include "platform/binary_file.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace cirrava {
@@ -15,7 +16,8 @@ bool choose_output(FileDesk& desk, const SaveProposal& proposal) {
     desk.out_path = desk.cdlopen.FileName;
 
     const bool exists = plain_file_exists(file_path(desk.out_path));
-    return desk.dialogs.ask((exists ? "OVERWRITE " : "Write ") + desk.out_path + "?",
+    const QString shown_path = QDir::toNativeSeparators(desk.out_path);
+    return desk.dialogs.ask((exists ? "OVERWRITE " : "Write ") + shown_path + "?",
                             "Ready to create");
 }
 
