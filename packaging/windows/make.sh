@@ -30,9 +30,12 @@ fetch_qt() {
 # Qt's dialogs keep histories among the settings of programs, which are in the registry on Windows, and
 # nothing that a program can tell Qt keeps them out: this Qt finds no place for such settings.
 keep_out_of_registry() {
-    local file=$folder/source/src/corelib/io/qsettings_win.cpp
-    sed --in-place 's/if (!organization.isEmpty()) {/if (false) {/' "$file"
-    [[ $(grep --count 'if (false) {' "$file") == 1 ]]
+    local file=$folder/source/src/corelib/io/qsettings_win.cpp condition='if (!organization.isEmpty()) {'
+    if [[ $(grep --count --fixed-strings "$condition" "$file") != 1 ]]; then
+        echo "Qt is not as it was: look for the place of the settings in $file" >&2
+        exit 1
+    fi
+    sed --in-place "s/$condition/if (false) {/" "$file"
 }
 
 build_qt() {
