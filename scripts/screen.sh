@@ -22,7 +22,12 @@ wait_until() {
     done
 }
 
-window_manager_runs() { [[ $(xprop -root _NET_SUPPORTING_WM_CHECK) == *0x* ]]; }
+# Openbox announces itself while it still starts, and may leave a window that is shown meanwhile until
+# the next event. Ready is what does as it is asked: have a number of desktops that nobody else sets.
+window_manager_answers() {
+    xdotool set_num_desktops 7
+    [[ $(xdotool get_num_desktops) == 7 ]]
+}
 
 # open_screen [SIZE]
 open_screen() {
@@ -37,7 +42,7 @@ open_screen() {
     rm "$number"
     openbox 2>/dev/null &
     started+=($!)
-    wait_until window_manager_runs
+    wait_until window_manager_answers
 }
 
 # Starts this script anew, with its arguments, on a session bus of its own.
