@@ -54,14 +54,15 @@ build_qt() {
 }
 
 install_packages "${build_packages[@]}" "${windows_packages[@]}"
-mkdir -p "${1:-$top/build/windows}"
-folder=$(realpath "${1:-$top/build/windows}")
+folder=$(realpath --canonicalize-missing "${1:-$top/build/windows}")
+mkdir -p "$folder"
 version=$(dpkg-query --show --showformat='${source:Version}' qt6-base-dev)
 toolchain=$windows/mingw.cmake
 qt=$folder/qt-$version
 [[ -d $qt ]] || build_qt
-# Newer sources of Debian leave Qt's plugins out of a program that does not ask for them.
-cmake -S "$top" --preset release -B "$folder/build" -DQT_CHAINLOAD_TOOLCHAIN_FILE="$toolchain" \
+# Afresh, since another clone may have used this folder. Newer sources of Debian leave Qt's plugins out
+# of a program that does not ask for them.
+cmake --fresh -S "$top" --preset release -B "$folder/build" -DQT_CHAINLOAD_TOOLCHAIN_FILE="$toolchain" \
     -DCMAKE_TOOLCHAIN_FILE="$qt/lib/cmake/Qt6/qt.toolchain.cmake" -DQT_SKIP_AUTO_PLUGIN_INCLUSION=OFF
 cmake --build "$folder/build"
 x86_64-w64-mingw32-strip -o "$folder/cirrava-pal.exe" "$folder/build/cirrava-pal.exe"
