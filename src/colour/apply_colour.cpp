@@ -2,17 +2,13 @@
 
 namespace cirrava {
 
-std::optional<ScaleKind> apply_colour(Colour color, const RangeSelection& selection,
-                                      const EditorState& state, const WorkingScale& working_scale,
-                                      ScaleControls& scales, const Dialogs& dialogs) {
-    if (!selection.is_complete()) {
-        dialogs.tell("Choose a range by left clicking for start and right clicking for end");
-        return std::nullopt;
-    }
-    const auto kind = working_scale.kind();
-    for (int cell = state.range_start; kind && cell <= state.range_end; ++cell)
-        scales.cells(*kind).set_colour(cell, color);
-    return kind;
+void apply_colour(Colour color, const std::optional<Range>& range, ScaleControls& scales,
+                  const Dialogs& dialogs) {
+    if (!range)
+        return dialogs.tell("Choose a range by left clicking for start and right clicking for end");
+    CellArray& cells = scales.cells(range->kind);
+    for (int cell = range->first; cell <= range->last; ++cell)
+        cells.set_colour(cell, color);
 }
 
 } // namespace cirrava

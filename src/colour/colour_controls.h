@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/controls.h"
+#include "widgets/number_bar.h"
+#include "widgets/swatch.h"
 
 #include <QLabel>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "colour/current_colour.h"
-#include "platform/common_dialog.h"
+#include "widgets/common_dialog.h"
 
 namespace cirrava {
 

@@ -16,7 +16,7 @@ template <class Headers, class Visit> void for_each_field(Headers& headers, Visi
 
 } // namespace
 
-void append(std::vector<std::uint8_t>& bytes, const BmpHeaders& headers) {
+void append_headers(std::vector<std::uint8_t>& bytes, const BmpHeaders& headers) {
     for_each_field(headers, [&bytes](auto field) {
         for (std::size_t i = 0; i < sizeof field; ++i)
             bytes.push_back(static_cast<std::uint8_t>(field >> (8 * i)));
@@ -25,11 +25,11 @@ void append(std::vector<std::uint8_t>& bytes, const BmpHeaders& headers) {
 
 BmpHeaders read_headers(std::span<const std::uint8_t> bytes) {
     BmpHeaders headers;
-    std::size_t place = 0;
+    std::size_t offset = 0;
     for_each_field(headers, [&](auto& field) {
         std::uint32_t value = 0;
-        for (std::size_t i = 0; i < sizeof field; ++i, ++place)
-            value |= (place < bytes.size() ? bytes[place] : 0U) << (8 * i);
+        for (std::size_t i = 0; i < sizeof field; ++i, ++offset)
+            value |= (offset < bytes.size() ? bytes[offset] : 0U) << (8 * i);
         field = static_cast<std::remove_reference_t<decltype(field)>>(value);
     });
     return headers;

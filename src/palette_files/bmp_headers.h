@@ -37,7 +37,7 @@ struct BmpHeaders {
 
 inline constexpr std::size_t headers_size = 14 + 40; // in bytes
 
-void append(std::vector<std::uint8_t>& bytes, const BmpHeaders& headers);
+void append_headers(std::vector<std::uint8_t>& bytes, const BmpHeaders& headers);
 
 // The headers at the start of `bytes`; what is missing there counts as zeros.
 BmpHeaders read_headers(std::span<const std::uint8_t> bytes);

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "palette_files/file_desk.h"
-#include "palette_files/palette_image.h"
+#include "palette_files/file_actions.h"
 #include "scale_editor/editor_state.h"
 #include "scale_editor/scale_controls.h"
+#include "widgets/picture_box.h"
 
 namespace cirrava {
 
@@ -11,8 +11,8 @@ namespace cirrava {
 // the selected cells.
 class HvcPalette {
 public:
-    HvcPalette(FileDesk& desk, const EditorState& state, ScaleControls& scales,
-               PictureBox& Picture1);
+    HvcPalette(CommonDialog& cdlopen, const Dialogs& dialogs, const EditorState& state,
+               ScaleControls& scales, PictureBox& Picture1);
 
     // Writes the palette to a file that the user names, and shows it once it is written.
     void generate();
@@ -20,16 +20,22 @@ public:
     // Writes the preview file anew from the cells, and shows them as a picture in every case.
     void refresh_preview();
 
+    // The same, but a preview file that cannot be written is not told: it is not what the user
+    // asked for.
+    void refresh_preview_silently();
+
     // The brightness slider was moved: shifts the selected cells by as much, refreshes the preview
     // and puts the slider back to rest.
     void brightness_changed();
 
 private:
     bool create_hvc_file(int fromwhere); // whether it was written
-    void write_image(int fromwhere);
+    bool write_final_file();
+    void write_preview_file(int steps);
     void show_picture();
 
-    FileDesk& desk_;
+    CommonDialog& cdlopen_;
+    const Dialogs& dialogs_;
     const EditorState& state_;
     CellArray& Label3_;
     NumberBar& HScroll4_;

@@ -3,7 +3,6 @@
 #include "platform/failure.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace cirrava {
 
@@ -11,9 +10,7 @@ namespace {
 
 constexpr std::size_t pixel_size = 3;
 
-// The rows of the HVC image, counted from the top.
-constexpr int hvc_rows = 256;
-constexpr int own_colours_row = 127;
+constexpr int own_colours_row = 127; // of the HVC image, counted from the top
 
 // The stored row, counted from the bottom, from which the cells of an HVC file are taken. It is two
 // rows below the cells' own colours: they come back two levels darker than they were written.
@@ -38,31 +35,16 @@ Colour shifted(Colour color, int levels) {
     return RGB(shift(channels.red_byte), shift(channels.green_byte), shift(channels.blue_byte));
 }
 
-// Copies `row` to `place` with `levels` added to each byte, which stops at 0 and at 255. Whole rows
-// of bytes take hardly longer than a plain copy; pixel by pixel would take many times as long.
-void put_shifted(const Bytes& row, int levels, Bytes::iterator place) {
-    const auto step = static_cast<std::uint8_t>(std::abs(levels));
-    const auto highest = static_cast<std::uint8_t>(255 - step);
-    const auto lighter = [=](std::uint8_t value) {
-        return static_cast<std::uint8_t>(std::min(value, highest) + step);
-    };
-    const auto darker = [=](std::uint8_t value) {
-        return static_cast<std::uint8_t>(std::max(value, step) - step);
-    };
-    if (levels > 0)
-        std::transform(row.begin(), row.end(), place, lighter);
-    else
-        std::transform(row.begin(), row.end(), place, darker);
-}
-
 // Rows `from` down to `to`, in the order of the file.
 void append_hvc_rows(Bytes& bytes, std::span<const Colour> cells, int from, int to) {
     const Bytes own = pixels_of(cells);
-    const std::ptrdiff_t size = std::ssize(own) * (from - to + 1);
-    bytes.resize(bytes.size() + static_cast<std::size_t>(size));
-    auto place = bytes.end() - size;
-    for (int row = from; row >= to; --row, place += std::ssize(own))
-        put_shifted(own, own_colours_row - row, place);
+    for (int row = from; row >= to; --row) {
+        const auto shifted = [levels = own_colours_row - row](int value) {
+            return static_cast<std::uint8_t>(std::clamp(value + levels, 0, 255));
+        };
+        bytes.resize(bytes.size() + own.size());
+        std::transform(own.begin(), own.end(), bytes.end() - std::ssize(own), shifted);
+    }
 }
 
 std::optional<ScaleKind> kind_of_size(std::int32_t biWidth, std::int32_t biHeight) {
@@ -76,7 +58,7 @@ std::optional<ScaleKind> kind_of_size(std::int32_t biWidth, std::int32_t biHeigh
 }
 
 // Pixels are looked for in steps of 4 bytes after the headers, up to where bfOffBits puts them.
-long pixels_place(std::int32_t bfOffBits) {
+long pixels_offset(std::int32_t bfOffBits) {
     constexpr auto end_of_headers = static_cast<std::int32_t>(headers_size);
     return bfOffBits <= end_of_headers ? end_of_headers
                                        : bfOffBits - (bfOffBits - end_of_headers) % 4;
@@ -94,7 +76,8 @@ std::vector<Colour> colours_of(std::span<const std::uint8_t> pixels) {
 
 Bytes row_image(std::span<const Colour> cells) {
     Bytes bytes;
-    append(bytes, {.info = {.biWidth = static_cast<std::int32_t>(cells.size()), .biHeight = 1}});
+    append_headers(bytes,
+                   {.info = {.biWidth = static_cast<std::int32_t>(cells.size()), .biHeight = 1}});
     const Bytes pixels = pixels_of(cells);
     bytes.insert(bytes.end(), pixels.begin(), pixels.end());
     bytes.resize(headers_size + (pixels.size() + 3) / 4 * 4);
@@ -119,8 +102,8 @@ std::vector<Colour> shift_brightness(std::vector<Colour> cells, const Brightness
 Bytes hvc_image(std::span<const Colour> below, std::span<const Colour> above) {
     Bytes bytes;
     bytes.reserve(headers_size + below.size() * pixel_size * hvc_rows);
-    append(bytes,
-           {.info = {.biWidth = static_cast<std::int32_t>(below.size()), .biHeight = hvc_rows}});
+    append_headers(bytes, {.info = {.biWidth = static_cast<std::int32_t>(below.size()),
+                                    .biHeight = hvc_rows}});
     append_hvc_rows(bytes, below, hvc_rows - 1, own_colours_row + 1);
     append_hvc_rows(bytes, above, own_colours_row, 0);
     return bytes;
@@ -139,7 +122,7 @@ std::optional<PaletteLayout> palette_layout(std::span<const std::uint8_t> header
         return std::nullopt;
     const std::size_t rows = *kind == ScaleKind::hvc ? stored_cells_row + 1 : 1;
     const auto cells = static_cast<std::size_t>(cell_count(*kind));
-    return PaletteLayout{*kind, pixels_place(file.bfOffBits), rows * cells * pixel_size};
+    return PaletteLayout{*kind, pixels_offset(file.bfOffBits), rows * cells * pixel_size};
 }
 
 std::vector<Colour> palette_colours(const PaletteLayout& layout,

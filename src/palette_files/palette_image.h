@@ -33,6 +33,8 @@ struct BrightnessShift {
 // `cells` with that change.
 std::vector<Colour> shift_brightness(std::vector<Colour> cells, const BrightnessShift& shift);
 
+inline constexpr int hvc_rows = 256;
+
 // The image of the HVC palette: one column per cell, 256 rows. Row 127 from the top has the cells'
 // own colours; each row below is one level darker per channel and each above one level lighter,
 // stopping at 0 and at 255. The rows below row 127 are made from `below`, the others from `above`.
@@ -41,7 +43,7 @@ Bytes hvc_image(std::span<const Colour> below, std::span<const Colour> above);
 // Where the headers of a palette file say that its colours are.
 struct PaletteLayout {
     ScaleKind kind;
-    long pixels_at = 0;          // bytes from the start of the file; may lie past its end
+    long pixels_offset = 0;      // bytes from the start of the file; may lie past its end
     std::size_t pixels_size = 0; // how many bytes from there matter, at the most
 };
 
@@ -50,7 +52,7 @@ bool is_bitmap(std::span<const std::uint8_t> headers);
 
 // What `headers`, the first 54 bytes of a file, say; nothing when they are incomplete, or those of
 // no bitmap, or of one whose size is that of none of the three palettes. Nothing but the size and
-// the place of the pixels is looked at.
+// the offset of the pixels is looked at.
 std::optional<PaletteLayout> palette_layout(std::span<const std::uint8_t> headers);
 
 // The colours for the first cells of the scale from `pixels`, the bytes that `layout` asks for or

@@ -6,28 +6,26 @@ namespace cirrava {
 
 namespace {
 
-void write(FileDesk& desk, const CellArray& cells, const SaveProposal& proposal,
-           const QString& message_start) {
+void write_scale(CommonDialog& cdlopen, const Dialogs& dialogs, const CellArray& cells,
+                 const SaveProposal& proposal, const QString& message_start) {
     try {
-        if (!choose_output(desk, proposal))
-            return;
-        BinaryFile file(file_path(desk.out_path), FileAccess::read_write);
-        file.write(row_image(cells.colours()));
-        file.sync();
-        file.close();
+        if (const auto out_path = choose_output(cdlopen, dialogs, proposal))
+            write_palette(*out_path, row_image(cells.colours()));
     } catch (const Failure& failure) {
-        tell_failure(desk, message_start, failure, " A problem occured during file creation");
+        tell_failure(dialogs, message_start, failure, " A problem occured during file creation");
     }
 }
 
 } // namespace
 
-void write_thermal(FileDesk& desk, const CellArray& cells) {
-    write(desk, cells, {.file_name = "thermal.bmp", .title = "Create Thermal"}, "Error# ");
+void write_thermal(CommonDialog& cdlopen, const Dialogs& dialogs, const CellArray& cells) {
+    write_scale(cdlopen, dialogs, cells, {.file_name = "thermal.bmp", .title = "Create Thermal"},
+                "Error# ");
 }
 
-void write_sea(FileDesk& desk, const CellArray& cells) {
-    write(desk, cells, {.file_name = "sea.bmp", .title = "Create Sea Surface Palette"}, "Error # ");
+void write_sea(CommonDialog& cdlopen, const Dialogs& dialogs, const CellArray& cells) {
+    write_scale(cdlopen, dialogs, cells,
+                {.file_name = "sea.bmp", .title = "Create Sea Surface Palette"}, "Error # ");
 }
 
 } // namespace cirrava

@@ -60,7 +60,7 @@ bool is_folder(const std::filesystem::path& path) {
 
 } // namespace
 
-BinaryFile::BinaryFile(const std::filesystem::path& path, FileAccess access) {
+BinaryFile::BinaryFile(const std::filesystem::path& path, FileAccess access) : path_(path) {
     if (path.empty())
         throw Failure{bad_file_name};
     std::error_code unanswered;
@@ -69,8 +69,10 @@ BinaryFile::BinaryFile(const std::filesystem::path& path, FileAccess access) {
         throw Failure{path_access};
 
     stream_.reset(open_stream(path, access));
-    if (stream_)
+    if (stream_) {
+        std::setvbuf(stream_.get(), nullptr, _IONBF, 0);
         return;
+    }
     const std::error_code error = last_error();
     if (access == FileAccess::read && error == std::errc::no_such_file_or_directory &&
         is_folder(path.parent_path()))
@@ -97,7 +99,7 @@ void BinaryFile::write(std::span<const std::uint8_t> bytes) {
 }
 
 void BinaryFile::sync() {
-    if (std::fflush(stream_.get()) != 0 || !sync_stream(stream_.get()))
+    if (!sync_stream(stream_.get(), path_))
         throw Failure{failure_of(last_error())};
 }
 

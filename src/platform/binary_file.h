@@ -26,20 +26,22 @@ public:
     // Moves to `offset` bytes from the start of the file, which may lie past its end.
     void seek(long offset);
 
-    // Writes all of `bytes` at the current place.
+    // Writes all of `bytes` at the current offset, without a buffer: what does not fit fails here.
     void write(std::span<const std::uint8_t> bytes);
 
-    // Has all that was written put on the medium, where it outlasts a power failure.
+    // Has all that was written, and the file's name, put on the medium, where it outlasts a power
+    // failure.
     void sync();
 
-    // Ends the writing. Some failures, a full disk among them, may show only here: without this
-    // call a file is closed too, but nobody learns of them.
+    // Ends the writing. On some systems, such as network drives, a failure may show only here:
+    // without this call a file is closed too, but nobody learns of it.
     void close();
 
 private:
     struct Closer {
         void operator()(std::FILE* stream) const { std::fclose(stream); }
     };
+    std::filesystem::path path_;
     std::unique_ptr<std::FILE, Closer> stream_;
 };
 

@@ -13,13 +13,17 @@ enum class FileAccess {
     read_write // created when missing, never shortened
 };
 
+// Makes a write past the process's file-size limit fail like any other, where the system would end
+// the program, and the palette with it. At the start of the program.
+void let_writes_past_size_limit_fail();
+
 // Opens `path` at its first byte without waiting for anything, not even for the other end of a
 // pipe. Returns null and sets errno on failure.
 std::FILE* open_stream(const std::filesystem::path& path, FileAccess access);
 
-// Has the system put what was written to `stream`, and flushed, on the medium. False, with errno
-// set, on failure.
-bool sync_stream(std::FILE* stream);
+// Has the system put what was written to `stream`, the open file `path`, and flushed, on the
+// medium, with the file's entry in its folder. False, with errno set, on failure.
+bool sync_stream(std::FILE* stream, const std::filesystem::path& path);
 
 // Whether the system's file lists leave `path` out by default.
 bool is_hidden(const std::filesystem::path& path);

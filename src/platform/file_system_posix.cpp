@@ -1,29 +1,43 @@
 #include "platform/file_system.h"
 
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace cirrava {
 
-std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
-    // A write past the process's file-size limit would otherwise end the program, and the palette
-    // with it; ignored, the signal becomes an EFBIG of the write.
-    std::signal(SIGXFSZ, SIG_IGN);
+void let_writes_past_size_limit_fail() {
+    std::signal(SIGXFSZ, [](int) {}); // handled, not ignored: started programs would ignore it, too
+}
 
+std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
     const bool writing = access == FileAccess::read_write;
     const int flags = (writing ? O_RDWR | O_CREAT : O_RDONLY) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
     const int descriptor = ::open(path.c_str(), flags, 0666);
     if (descriptor < 0)
         return nullptr;
     std::FILE* const stream = ::fdopen(descriptor, writing ? "r+b" : "rb");
-    if (stream == nullptr)
+    if (stream == nullptr) {
+        const int error = errno;
         ::close(descriptor);
+        errno = error;
+    }
     return stream;
 }
 
-bool sync_stream(std::FILE* stream) {
-    return ::fsync(::fileno(stream)) == 0;
+bool sync_stream(std::FILE* stream, const std::filesystem::path& path) {
+    if (::fsync(::fileno(stream)) != 0)
+        return false;
+    const auto folder_path = path.has_parent_path() ? path.parent_path() : ".";
+    const int folder = ::open(folder_path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return true; // the user may write in folders that cannot be read
+    const bool synced = ::fsync(folder) == 0 || errno == EINVAL; // some have nothing to flush
+    const int error = errno;
+    ::close(folder);
+    errno = error;
+    return synced;
 }
 
 bool is_hidden(const std::filesystem::path& path) {

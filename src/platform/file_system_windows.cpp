@@ -33,6 +33,8 @@ int open_on_disk(const std::filesystem::path& path, int flags) {
 
 } // namespace
 
+void let_writes_past_size_limit_fail() {} // there is no such limit
+
 std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
     const bool writing = access == FileAccess::read_write;
     const int flags = (writing ? _O_RDWR | _O_CREAT : _O_RDONLY) | _O_BINARY | _O_NOINHERIT;
@@ -40,12 +42,16 @@ std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
     if (descriptor < 0)
         return nullptr;
     std::FILE* const stream = _fdopen(descriptor, writing ? "r+b" : "rb");
-    if (stream == nullptr)
+    if (stream == nullptr) {
+        const int error = errno;
         _close(descriptor);
+        errno = error;
+    }
     return stream;
 }
 
-bool sync_stream(std::FILE* stream) {
+// The file's entry goes with it.
+bool sync_stream(std::FILE* stream, const std::filesystem::path&) {
     return _commit(_fileno(stream)) == 0;
 }
 

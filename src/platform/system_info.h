@@ -1,38 +1,26 @@
 #pragma once
 
-#include "platform/registry.h"
-
 #include <filesystem>
+#include <functional>
+#include <optional>
 
 namespace cirrava {
 
-// Where the registry says how to get information about the system.
-struct RegistryPlace {
-    const char* key; // of the local machine
-    const char* value;
-};
+using FoundProgram = std::optional<std::filesystem::path>;
 
-// The path of the program, and the folder of an older one.
-inline constexpr RegistryPlace system_info_program{"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO",
-                                                   "PATH"};
-inline constexpr RegistryPlace system_info_folder{"SOFTWARE\\Microsoft\\Shared Tools Location",
-                                                  "MSINFO"};
-
-// Reads the value `SubKeyRef` of the key `KeyName` under `KeyRoot` as text into `KeyVal`, and says
-// whether there is one. `KeyVal` becomes empty when there is none, and stays as it is for a value
-// that is neither a string nor a 32-bit number.
-bool GetKeyValue(const RegistryReader& registry, std::uint32_t KeyRoot, const std::string& KeyName,
-                 const std::string& SubKeyRef, std::string& KeyVal);
+// The program that tells about the system, or nothing. May throw a Failure. One implementation per
+// operating system: system_info_posix.cpp takes the desktop's, system_info_windows.cpp the one that
+// the registry names.
+FoundProgram find_system_info_program();
 
 // What `StartSysInfo` asks of the system and of the user.
 struct SystemInfoActions {
-    RegistryReader registry;
+    std::function<FoundProgram()> find;
     std::function<bool(const std::filesystem::path&)> start; // a program; false when it cannot
     std::function<void()> tell_unavailable;
 };
 
-// Starts the program that the registry names for information about the system, or says that there
-// is none.
+// Starts the program that tells about the system, or says that there is none.
 void StartSysInfo(const SystemInfoActions& actions);
 
 } // namespace cirrava

@@ -1,8 +1,8 @@
 #include "scale_editor/accessible_cells.h"
 
-#include "platform/controls.h"
 #include "scale_editor/cell_array.h"
 #include "scale_editor/qt_values.h"
+#include "widgets/spoken_colour.h"
 
 #include <QAccessibleWidget>
 #include <QPointer>
@@ -11,9 +11,9 @@ namespace cirrava {
 
 namespace {
 
-const QString mark_as_start = QStringLiteral("mark as start");
-const QString mark_as_end = QStringLiteral("mark as end");
-const QString copy_colour = QStringLiteral("copy colour");
+constexpr QLatin1StringView mark_as_start("mark as start");
+constexpr QLatin1StringView mark_as_end("mark as end");
+constexpr QLatin1StringView copy_colour("copy colour");
 
 class AccessibleCell : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
@@ -38,8 +38,8 @@ public:
     void setText(QAccessible::Text, const QString&) override {}
 
     QRect rect() const override {
-        const QRect mark = cells_->mark(cell_);
-        return {cells_->mapToGlobal(mark.topLeft()), mark.size()};
+        const QRect strip = cells_->strip(cell_);
+        return {cells_->mapToGlobal(strip.topLeft()), strip.size()};
     }
 
     QAccessibleInterface* parent() const override {
@@ -56,11 +56,12 @@ public:
     }
     QStringList actionNames() const override { return {mark_as_start, mark_as_end, copy_colour}; }
     void doAction(const QString& action) override {
-        if (action == copy_colour)
-            emit cells_->cell_double_clicked(cell_);
-        else
-            emit cells_->cell_released(cell_,
-                                       action == mark_as_start ? Qt::LeftButton : Qt::RightButton);
+        if (action == mark_as_start)
+            cells_->mark(cell_, RangeEnd::start);
+        else if (action == mark_as_end)
+            cells_->mark(cell_, RangeEnd::end);
+        else if (action == copy_colour)
+            cells_->copy_colour(cell_);
     }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 

@@ -1,8 +1,8 @@
 #include "scale_editor/cell_array.h"
 
-#include "platform/twips.h"
 #include "scale_editor/accessible_cells.h"
 #include "scale_editor/qt_values.h"
+#include "widgets/twips.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -19,24 +19,23 @@ constexpr int left_margin = 120;
 constexpr int pitch = 120;
 constexpr int row_pitch = 480;
 constexpr int cell_size = 255;
-constexpr int mark_inset = 15;
+constexpr int strip_inset = 15;
 
 constexpr int cells_per_row = 100;
 
 } // namespace
 
-CellArray::CellArray(ScaleKind kind)
-    : kind_(kind), colours_(static_cast<std::size_t>(cell_count(kind)), RGB(0, 0, 0)) {
+CellArray::CellArray(ScaleKind kind) : kind_(kind), colours_(cell_count(kind), RGB(0, 0, 0)) {
     QAccessible::installFactory(accessible_cells); // once, however often it is asked for
 }
 
 void CellArray::set_colour(int cell, Colour colour) {
-    colours_.at(static_cast<std::size_t>(cell)) = colour;
-    update(mark(cell));
+    colours_[cell] = colour;
+    update(strip(cell));
 }
 
 void CellArray::set_colours(std::span<const Colour> colours) {
-    const std::size_t count = std::min(colours.size(), colours_.size());
+    const auto count = std::min<std::ptrdiff_t>(std::ssize(colours), colours_.size());
     std::copy_n(colours.begin(), count, colours_.begin());
     update();
 }
@@ -55,21 +54,21 @@ QRect CellArray::cell_box(int cell) const {
     return cell_pixels(cell, 0, cell_size, cell_size);
 }
 
-QRect CellArray::mark(int cell) const {
+QRect CellArray::strip(int cell) const {
     const bool last_of_row = (cell + 1) % cells_per_row == 0 || cell + 1 == cell_count(kind_);
-    return cell_pixels(cell, mark_inset, last_of_row ? cell_size : pitch,
-                       cell_size - 2 * mark_inset);
+    return cell_pixels(cell, strip_inset, last_of_row ? cell_size : pitch,
+                       cell_size - 2 * strip_inset);
 }
 
 QRect CellArray::cell_pixels(int cell, int inset_top, int width, int height) const {
-    const Place place{left_margin + pitch * (cell % cells_per_row),
-                      top_ + row_pitch * (cell / cells_per_row) + inset_top, width, height};
-    return to_pixels(place, dpi_).translated(-pos());
+    const TwipRect rect{left_margin + pitch * (cell % cells_per_row),
+                        top_ + row_pitch * (cell / cells_per_row) + inset_top, width, height};
+    return to_pixels(rect, dpi_).translated(-pos());
 }
 
-int CellArray::cell_at(QPoint place) const {
+int CellArray::cell_at(QPoint point) const {
     int cell = cell_count(kind_) - 1; // the highest first, since it lies on top
-    while (cell >= 0 && !cell_box(cell).contains(place))
+    while (cell >= 0 && !cell_box(cell).contains(point))
         --cell;
     return cell;
 }
@@ -82,14 +81,14 @@ bool CellArray::event(QEvent* event) {
     if (cell < 0)
         QToolTip::hideText();
     else
-        QToolTip::showText(help->globalPos(), to_qt(tooltip_text(kind_, cell)), this, mark(cell));
+        QToolTip::showText(help->globalPos(), to_qt(tooltip_text(kind_, cell)), this, strip(cell));
     return true;
 }
 
 void CellArray::paintEvent(QPaintEvent* event) {
     QPainter painter(this); // without antialiasing, edges fall on device pixels at every scale
     for (int cell = 0; cell < cell_count(kind_); ++cell) {
-        const QRect box = mark(cell);
+        const QRect box = strip(cell);
         if (event->region().intersects(box))
             painter.fillRect(box, to_qt(colour(cell)));
     }
@@ -102,7 +101,9 @@ void CellArray::mousePressEvent(QMouseEvent* event) {
 void CellArray::mouseReleaseEvent(QMouseEvent* event) {
     const auto released_over = hit(*event);
     if (released_over && pressed_on_cells_.testFlag(event->button()))
-        emit released_over->scale->cell_released(released_over->cell, event->button());
+        released_over->scale->mark(released_over->cell, event->button() == Qt::LeftButton
+                                                            ? RangeEnd::start
+                                                            : RangeEnd::end);
     pressed_on_cells_.setFlag(event->button(), false);
 }
 
@@ -110,7 +111,7 @@ void CellArray::mouseDoubleClickEvent(QMouseEvent* event) {
     mousePressEvent(event);
     const int cell = cell_at(event->position().toPoint());
     if (cell >= 0 && event->button() == Qt::LeftButton)
-        emit cell_double_clicked(cell);
+        copy_colour(cell);
 }
 
 std::optional<CellArray::Hit> CellArray::hit(const QMouseEvent& event) const {

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "scale_editor/colour.h"
-#include "scale_editor/scale.h"
+#include "scale_editor/range.h"
 
 #include <QWidget>
 #include <optional>
 #include <span>
-#include <vector>
 
 namespace cirrava {
 
@@ -21,8 +20,8 @@ public:
     explicit CellArray(ScaleKind kind);
 
     ScaleKind kind() const { return kind_; }
-    std::span<const Colour> colours() const { return colours_; }
-    Colour colour(int cell) const { return colours_.at(static_cast<std::size_t>(cell)); }
+    const QList<Colour>& colours() const { return colours_; }
+    Colour colour(int cell) const { return colours_.at(cell); }
 
     // `cell` must be one of the scale's. Repaints it.
     void set_colour(int cell, Colour colour);
@@ -38,15 +37,20 @@ public:
     QRect cell_box(int cell) const;
 
     // Where a cell shows its colour: as wide as nothing lies over it.
-    QRect mark(int cell) const;
+    QRect strip(int cell) const;
 
-    // The cell that takes the mouse at `place`; -1 outside every cell.
-    int cell_at(QPoint place) const;
+    // The cell that takes the mouse at `point`; -1 outside every cell.
+    int cell_at(QPoint point) const;
+
+    // What mouse and screen reader do with a cell.
+    void mark(int cell, RangeEnd end) { emit marked(cell, end); }
+    void copy_colour(int cell) { emit colour_asked(cell); }
 
 signals:
-    // A mouse button was released over `cell`; it was pressed over a cell of this or another scale.
-    void cell_released(int cell, Qt::MouseButton button);
-    void cell_double_clicked(int cell); // with the left button
+    // By a release of the left button for the start, of any other for the end; it was pressed over
+    // a cell of this or another scale.
+    void marked(int cell, RangeEnd end);
+    void colour_asked(int cell); // by a double click with the left button
 
 protected:
     bool event(QEvent* event) override;
@@ -66,7 +70,7 @@ private:
     QRect cell_pixels(int cell, int inset_top, int width, int height) const;
 
     ScaleKind kind_;
-    std::vector<Colour> colours_;
+    QList<Colour> colours_;
     int top_ = 0;
     int dpi_ = 96;
     Qt::MouseButtons pressed_on_cells_; // and not yet released

@@ -2,36 +2,36 @@
 
 #include "scale_editor/scale_controls.h"
 
-#include <QUndoStack>
 #include <functional>
 
 namespace cirrava {
 
-// Every change of cells, so that it can be taken back and brought back. It goes back to the start
-// of the program.
+// The cells as they were after every change of them, so that changes can be taken back and brought
+// back. It goes back to its own making.
 class PaletteHistory {
 public:
     // `hvc_changed` is called after each step back or forth that changed HVC cells.
     PaletteHistory(ScaleControls& scales, std::function<void()> hvc_changed)
         : scales_(scales), hvc_changed_(std::move(hvc_changed)) {}
 
-    // Does `action`, one action of the user, and remembers the cells that it changed; an action
-    // that changed none is not remembered.
-    void record(const std::function<void()>& action);
+    // To be called after each action of the user that may have changed cells. What was taken back
+    // before a change cannot be brought back after it.
+    void remember();
 
-    void undo() { stack_.undo(); }
-    void redo() { stack_.redo(); }
+    void undo() { go_to(current_ - 1); }
+    void redo() { go_to(current_ + 1); }
 
 private:
-    using Palettes = std::array<std::vector<Colour>, all_scales.size()>; // by scale
-    class Change;
+    // By scale. The lists of scales that did not change share their colours.
+    using Palettes = std::array<QList<Colour>, all_scales.size()>;
 
     Palettes palettes();
-    void restore(const Palettes& wanted);
+    void go_to(qsizetype state);
 
     ScaleControls& scales_;
     std::function<void()> hvc_changed_;
-    QUndoStack stack_;
+    QList<Palettes> states_{palettes()};
+    qsizetype current_ = 0;
 };
 
 } // namespace cirrava

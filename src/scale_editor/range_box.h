@@ -8,9 +8,6 @@ namespace cirrava {
 // up, down, page up, page down, and Ctrl with Home or End. Enter asks for the colour of its cell.
 class RangeBox : public QLineEdit {
     Q_OBJECT
-public:
-    RangeBox() { setReadOnly(true); }
-
 signals:
     // So many cells warmer, below 0 colder; a number beyond every scale goes to its end.
     void stepped(int cells);

@@ -9,7 +9,11 @@ namespace cirrava {
 
 namespace {
 
-const QString blank = QStringLiteral(" ");
+constexpr QLatin1StringView blank(" ");
+
+std::optional<double> celsius_in(const QLineEdit& box) {
+    return numeric_value(box.text().toStdString());
+}
 
 } // namespace
 
@@ -20,34 +24,33 @@ void RangeSelection::choose_scale(ScaleKind kind) {
     blank_boxes();
 }
 
-void RangeSelection::cell_released(ScaleKind kind, int cell, Qt::MouseButton button) {
+void RangeSelection::mark(ScaleKind kind, int cell, RangeEnd end) {
     working_scale_.set(kind);
-    const bool is_start = button == Qt::LeftButton;
-    QLineEdit& clicked_end = is_start ? boxes_.Text1 : boxes_.Text2;
-    QLineEdit& other_end = is_start ? boxes_.Text2 : boxes_.Text1;
+    const bool is_start = end == RangeEnd::start;
+    QLineEdit& marked_box = is_start ? boxes_.Text1 : boxes_.Text2;
+    QLineEdit& other_box = is_start ? boxes_.Text2 : boxes_.Text1;
 
-    clicked_end.setText(to_qt(celsius_text(kind, cell)));
+    marked_box.setText(to_qt(celsius_text(kind, cell)));
     (is_start ? state_.range_start : state_.range_end) = cell;
     if (state_.last_scale != kind)
-        other_end.setText(blank);
+        other_box.setText(blank);
     state_.last_scale = kind;
 }
 
-void RangeSelection::step(Qt::MouseButton button, int cells) {
-    const auto kind = working_scale_.kind();
-    if (!kind)
-        return;
-    const auto start = cell_of(boxes_.Text1);
-    const auto end = cell_of(boxes_.Text2);
-    const int from =
-        (button == Qt::LeftButton ? start : end).value_or(start.value_or(end.value_or(0)));
-    cell_released(*kind, std::clamp(from + cells, 0, cell_count(*kind) - 1), button);
+void RangeSelection::step(RangeEnd end, int cells) {
+    const ScaleKind kind = working_scale_.kind();
+    const auto start_cell = cell_of(RangeEnd::start);
+    const auto end_cell = cell_of(RangeEnd::end);
+    const auto other_cell = start_cell ? start_cell : end_cell;
+    const int from = cell_of(end).value_or(other_cell.value_or(0));
+    mark(kind, std::clamp(from + cells, 0, cell_count(kind) - 1), end);
 }
 
-std::optional<int> RangeSelection::cell_of(const QLineEdit& box) const {
-    if (!numeric_value(box.text().toStdString()))
+std::optional<int> RangeSelection::cell_of(RangeEnd end) const {
+    const bool is_start = end == RangeEnd::start;
+    if (!celsius_in(is_start ? boxes_.Text1 : boxes_.Text2))
         return std::nullopt;
-    return &box == &boxes_.Text1 ? state_.range_start : state_.range_end;
+    return is_start ? state_.range_start : state_.range_end;
 }
 
 void RangeSelection::reset() {
@@ -56,10 +59,12 @@ void RangeSelection::reset() {
     state_.range_end = cell_count(ScaleKind::hvc) - 1;
 }
 
-bool RangeSelection::is_complete() const {
-    const auto start = numeric_value(boxes_.Text1.text().toStdString());
-    const auto end = numeric_value(boxes_.Text2.text().toStdString());
-    return start && end && *start <= *end;
+std::optional<Range> RangeSelection::range() const {
+    const auto start = celsius_in(boxes_.Text1);
+    const auto end = celsius_in(boxes_.Text2);
+    if (!start || !end || *start > *end)
+        return std::nullopt;
+    return Range{working_scale_.kind(), state_.range_start, state_.range_end};
 }
 
 void RangeSelection::blank_boxes() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scale_editor/editor_state.h"
+#include "scale_editor/range.h"
 #include "scale_editor/working_scale.h"
 
 namespace cirrava {
@@ -14,28 +15,24 @@ public:
     // Makes `kind` the working scale and blanks the boxes, unless it is the working scale already.
     void choose_scale(ScaleKind kind);
 
-    // The left button marks the start of the range, every other button its end. A click on another
-    // scale than the last blanks the opposite end.
-    void cell_released(ScaleKind kind, int cell, Qt::MouseButton button);
+    // Marks `cell` as that end of the range and makes `kind` the working scale. When the last cell
+    // marked was of another scale, the opposite end becomes blank.
+    void mark(ScaleKind kind, int cell, RangeEnd end);
 
-    // Moves the start (Text1) or the end (Text2) of the range by so many cells of the working
-    // scale, as a click there would, and stops at the ends of the scale. A box without a number
-    // starts from the other box's cell, or else from the first cell.
-    void step_start(int cells) { step(Qt::LeftButton, cells); }
-    void step_end(int cells) { step(Qt::RightButton, cells); }
+    // Moves that end by so many cells of the working scale and stops at the ends of the scale. An
+    // end that is blank starts from the other end's cell, or else from the first cell.
+    void step(RangeEnd end, int cells);
 
-    // The cell of the working scale that `box` shows, if it shows one.
-    std::optional<int> cell_of(const QLineEdit& box) const;
+    // The cell of the working scale that the box of that end shows, if it shows one.
+    std::optional<int> cell_of(RangeEnd end) const;
 
     // Takes the whole HVC scale for the range and blanks the boxes.
     void reset();
 
-    // Whether both boxes hold a temperature, the start not above the end. Both are then cells of
-    // the working scale.
-    bool is_complete() const;
+    // The range that the boxes show: both hold a temperature, the start not above the end.
+    std::optional<Range> range() const;
 
 private:
-    void step(Qt::MouseButton button, int cells);
     void blank_boxes();
 
     EditorState& state_;

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "platform/controls.h"
 #include "scale_editor/cell_array.h"
 #include "scale_editor/range_box.h"
+#include "widgets/button.h"
+#include "widgets/number_bar.h"
 
 #include <QLabel>
 

@@ -2,6 +2,8 @@
 
 #include "scale_editor/qt_values.h"
 
+#include <algorithm>
+
 namespace cirrava {
 
 namespace {
@@ -24,11 +26,13 @@ void WorkingScale::set(ScaleKind kind) {
     c.Label5.setText(to_qt(kind_text(kind)));
 }
 
-std::optional<ScaleKind> WorkingScale::kind() const {
-    for (const ScaleKind kind : all_scales)
-        if (controls_.Label5.text() == to_qt(kind_text(kind)))
-            return kind;
-    return std::nullopt;
+ScaleKind WorkingScale::kind() const {
+    const auto is_shown = [this](ScaleKind kind) {
+        return controls_.Label5.text() == to_qt(kind_text(kind));
+    };
+    const auto* const shown = std::ranges::find_if(all_scales, is_shown);
+    Q_ASSERT(shown != all_scales.end());
+    return *shown;
 }
 
 } // namespace cirrava

@@ -2,8 +2,6 @@
 
 #include "scale_editor/scale_controls.h"
 
-#include <optional>
-
 namespace cirrava {
 
 // The scale that a colour is applied to. It is what `Label5` says, and the controls that belong to
@@ -13,8 +11,7 @@ public:
     explicit WorkingScale(ScaleControls& controls) : controls_(controls) {}
 
     void set(ScaleKind kind);
-    // Nothing before the first `set`.
-    std::optional<ScaleKind> kind() const;
+    ScaleKind kind() const; // after a first `set`
 
 private:
     ScaleControls& controls_;

@@ -1,10 +1,12 @@
 #include "ui/about_window.h"
 
-#include "platform/controls.h"
-#include "platform/dialogs.h"
 #include "platform/system_info.h"
 #include "ui/look.h"
 #include "ui/placing.h"
+#include "widgets/button.h"
+#include "widgets/dialogs.h"
+#include "widgets/line.h"
+#include "widgets/sunken_border.h"
 
 #include <QDialog>
 #include <QFileInfo>
@@ -16,14 +18,14 @@ namespace cirrava {
 
 namespace {
 
-const char* const description =
+constexpr char description[] =
     "This application can be used to generate 24 bit color palette files which can be used by "
     "Cirrava to produce color enhancements as per your requirements,  in Thermal, HVC and Sea "
     "Surface temperature categories.\n\n"
     "Please click the \"How to use\" button to learn more.\n\n"
     "Developed by the Cirrava PAL developers.";
 
-const char* const disclaimer =
+constexpr char disclaimer[] =
     "This software comes with the usual warnings. It was developed as a hobby in free time and "
     "tested reasonably well. Please report faults, and send a note of appreciation if you like it. "
     "To communicate, please use the decoder's user group. This is free software that comes with no "
@@ -34,9 +36,9 @@ class AboutWindow : public QDialog {
 public:
     explicit AboutWindow(QWidget& parent) : QDialog(&parent) {
         setObjectName("frmAbout");
-        fix_frame(*this, "About " + program_title, {0, 0, 5685, 5190});
+        make_fixed_window(*this, "About " + program_title, {5685, 5190});
         setWindowIcon(parent.windowIcon());
-        move_to_its_place();
+        move_to_position();
         place_picture();
         place_texts();
         place_lines();
@@ -45,15 +47,14 @@ public:
     }
 
 private:
-    void move_to_its_place() {
-        const Place on_screen{2340, 1935, 5685, 5190};
+    void move_to_position() {
+        const TwipRect on_screen{2340, 1935, 5685, 5190};
         setGeometry(to_pixels(on_screen, logicalDpiX())); // of the client area, without the frame
     }
 
     void place_picture() {
         place(picIcon_, *this, "picIcon", {0, 0, 1140, 1500});
-        picIcon_.setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        picIcon_.setLineWidth(2);
+        give_sunken_border(picIcon_);
         picIcon_.setPixmap(program_picture(devicePixelRatioF()));
     }
 
@@ -69,10 +70,10 @@ private:
                    {.text = qRgb(0, 0, 0)});
     }
 
-    void place_text(QLabel& label, const QString& name, const Place& box, const QString& text,
+    void place_text(QLabel& label, const QString& name, const TwipRect& rect, const QString& text,
                     const Look& look) {
-        place(label, *this, name, box);
-        dress(label, look);
+        place(label, *this, name, rect);
+        give_look(label, look);
         label.setTextFormat(Qt::PlainText);
         label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
         label.setWordWrap(true);
@@ -82,9 +83,9 @@ private:
     // Together they look etched into the window.
     void place_lines() {
         place(Line1_[1], *this, "Line1(1)", {90, 3120, 5564, 15});
-        dress(Line1_[1], {.text = qRgb(128, 128, 128)});
+        give_look(Line1_[1], {.text = qRgb(128, 128, 128)});
         place(Line1_[0], *this, "Line1(0)", {120, 3240, 5549, 30});
-        dress(Line1_[0], {.text = qRgb(255, 255, 255)});
+        give_look(Line1_[0], {.text = qRgb(255, 255, 255)});
     }
 
     void place_buttons() {
@@ -106,7 +107,7 @@ private:
         const auto tell_unavailable = [this] {
             qt_dialogs(*this).tell("System Information Is Unavailable At This Time");
         };
-        StartSysInfo({read_registry, start, tell_unavailable});
+        StartSysInfo({find_system_info_program, start, tell_unavailable});
     }
 
     QLabel picIcon_, lblTitle_, lblVersion_, Label1_, lblDescription_, lblDisclaimer_;

@@ -5,7 +5,6 @@
 #include "palette_files/load_palette.h"
 #include "palette_files/write_scale.h"
 #include "scale_editor/qt_values.h"
-#include "scale_editor/tick_labels.h"
 #include "ui/about_window.h"
 #include "ui/cirrava_layout.h"
 #include "ui/help_windows.h"
@@ -16,9 +15,9 @@
 
 namespace cirrava {
 
-Cirrava::Cirrava(Dialogs dialogs) : desk_{.dialogs = std::move(dialogs)} {
+Cirrava::Cirrava(Dialogs dialogs) : dialogs_(std::move(dialogs)) {
     lay_out(controls_, *this);
-    load();
+    start_up();
     fit_captions(*this);
     connect_scales();
     connect_colour();
@@ -27,27 +26,22 @@ Cirrava::Cirrava(Dialogs dialogs) : desk_{.dialogs = std::move(dialogs)} {
     connect_history();
 }
 
-void Cirrava::load() {
-    write_tick_labels(ScaleKind::thermal, controls_.T1C);
-    write_tick_labels(ScaleKind::sea, controls_.SS);
-    write_tick_labels(ScaleKind::hvc, controls_.hvc);
+void Cirrava::start_up() {
     for (const auto& channel : controls_.channels())
         current_colour_.slider_moved(channel);
     working_scale_.set(ScaleKind::thermal);
-    desk_.cdlopen.InitDir = QCoreApplication::applicationDirPath();
-    desk_.cdlopen.FileName = "*.bmp";
-    desk_.cdlopen.Filter = "*.bmp";
+    cdlopen_.InitDir = QCoreApplication::applicationDirPath();
+    cdlopen_.FileName = "*.bmp";
+    cdlopen_.Filter = "*.bmp";
 }
 
 void Cirrava::connect_scales() {
     auto& c = controls_;
     for (const ScaleKind kind : all_scales) {
         CellArray& cells = c.cells(kind);
-        connect(&cells, &CellArray::cell_released, this,
-                [this, kind](int cell, Qt::MouseButton button) {
-                    range_selection_.cell_released(kind, cell, button);
-                });
-        connect(&cells, &CellArray::cell_double_clicked, this,
+        connect(&cells, &CellArray::marked, this,
+                [this, kind](int cell, RangeEnd end) { range_selection_.mark(kind, cell, end); });
+        connect(&cells, &CellArray::colour_asked, this,
                 [this, &cells](int cell) { current_colour_.take(cells.colour(cell)); });
     }
     connect(&c.thermal_butt, &Button::clicked, this,
@@ -59,9 +53,9 @@ void Cirrava::connect_scales() {
     connect(&c.Text1, &QLineEdit::textChanged, this, [&c] { show_fahrenheit(c.Text1, c.Text3); });
     connect(&c.Text2, &QLineEdit::textChanged, this, [&c] { show_fahrenheit(c.Text2, c.Text4); });
     connect(&c.Text1, &RangeBox::stepped, this,
-            [this](int cells) { range_selection_.step_start(cells); });
+            [this](int cells) { range_selection_.step(RangeEnd::start, cells); });
     connect(&c.Text2, &RangeBox::stepped, this,
-            [this](int cells) { range_selection_.step_end(cells); });
+            [this](int cells) { range_selection_.step(RangeEnd::end, cells); });
     connect(&c.Command1, &Button::clicked, this, [this] { range_selection_.reset(); });
 }
 
@@ -73,23 +67,27 @@ void Cirrava::connect_colour() {
     for (const auto& channel : c.channels())
         connect(&channel.slider, &NumberBar::valueChanged, this,
                 [this, channel] { current_colour_.slider_moved(channel); });
-    for (RangeBox* box : {&c.Text1, &c.Text2})
-        connect(box, &RangeBox::colour_asked, this, [this, box] { copy_colour(*box); });
+    connect(&c.Text1, &RangeBox::colour_asked, this, [this] { copy_colour(RangeEnd::start); });
+    connect(&c.Text2, &RangeBox::colour_asked, this, [this] { copy_colour(RangeEnd::end); });
     connect(&c.pickcolor, &Button::clicked, this,
-            [this] { pick_colour(desk_.cdlopen, desk_.dialogs, current_colour_); });
-    connect(&c.Command2, &Button::clicked, this, [this] { history_.record([this] { apply(); }); });
+            [this] { pick_colour(cdlopen_, dialogs_, current_colour_); });
+    connect(&c.Command2, &Button::clicked, this, [this] { apply(); });
 }
 
 void Cirrava::connect_files() {
     auto& c = controls_;
     connect(&c.thermal_command, &Button::clicked, this,
-            [this] { write_thermal(desk_, controls_.thermal_char); });
-    connect(&c.sea_command, &Button::clicked, this, [this] { write_sea(desk_, controls_.Label2); });
+            [this] { write_thermal(cdlopen_, dialogs_, controls_.thermal_char); });
+    connect(&c.sea_command, &Button::clicked, this,
+            [this] { write_sea(cdlopen_, dialogs_, controls_.Label2); });
     connect(&c.hvc_command, &Button::clicked, this, [this] { hvc_palette_.generate(); });
-    connect(&c.HScroll4, &NumberBar::valueChanged, this,
-            [this] { history_.record([this] { hvc_palette_.brightness_changed(); }); });
+    connect(&c.HScroll4, &NumberBar::valueChanged, this, [this] {
+        hvc_palette_.brightness_changed();
+        history_.remember();
+    });
     connect(&c.Command5, &Button::clicked, this, [this] {
-        history_.record([this] { load_palette(desk_, controls_, controls_.Picture1); });
+        load_palette(cdlopen_, dialogs_, controls_, controls_.Picture1);
+        history_.remember();
     });
 }
 
@@ -104,23 +102,22 @@ void Cirrava::connect_windows() {
 void Cirrava::connect_history() {
     connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this,
             [this] { history_.undo(); });
-    for (const char* keys : {"Ctrl+Shift+Z", "Ctrl+Y"}) // desktops differ: both bring back
-        connect(new QShortcut(QKeySequence(keys), this), &QShortcut::activated, this,
+    for (const auto keys : {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, // desktops differ
                 [this] { history_.redo(); });
 }
 
-void Cirrava::copy_colour(const QLineEdit& box) {
-    const auto kind = working_scale_.kind();
-    const auto cell = range_selection_.cell_of(box);
-    if (kind && cell)
-        current_colour_.take(controls_.cells(*kind).colour(*cell));
+void Cirrava::copy_colour(RangeEnd end) {
+    if (const auto cell = range_selection_.cell_of(end))
+        current_colour_.take(controls_.cells(working_scale_.kind()).colour(*cell));
 }
 
 void Cirrava::apply() {
-    const auto changed = apply_colour(current_colour_.colour(), range_selection_, state_,
-                                      working_scale_, controls_, desk_.dialogs);
-    if (changed == ScaleKind::hvc)
+    const auto range = range_selection_.range();
+    apply_colour(current_colour_.colour(), range, controls_, dialogs_);
+    if (range && range->kind == ScaleKind::hvc)
         hvc_palette_.refresh_preview();
+    history_.remember();
 }
 
 } // namespace cirrava

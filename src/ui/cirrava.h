@@ -17,24 +17,25 @@ public:
     explicit Cirrava(Dialogs dialogs);
 
 private:
-    void load();
+    void start_up();
     void connect_scales();
     void connect_colour();
     void connect_files();
     void connect_windows();
     void connect_history();
-    void copy_colour(const QLineEdit& box);
+    void copy_colour(RangeEnd end);
     void apply();
 
     CirravaControls controls_;
     EditorState state_;
-    FileDesk desk_;
+    Dialogs dialogs_;
+    CommonDialog cdlopen_{dialogs_};
 
     WorkingScale working_scale_{controls_};
     RangeSelection range_selection_{state_, working_scale_, controls_};
     CurrentColour current_colour_{controls_};
-    HvcPalette hvc_palette_{desk_, state_, controls_, controls_.Picture1};
-    PaletteHistory history_{controls_, [this] { hvc_palette_.refresh_preview(); }};
+    HvcPalette hvc_palette_{cdlopen_, dialogs_, state_, controls_, controls_.Picture1};
+    PaletteHistory history_{controls_, [this] { hvc_palette_.refresh_preview_silently(); }};
 };
 
 } // namespace cirrava

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "colour/colour_controls.h"
-#include "scale_editor/continuation_mark.h"
+#include "scale_editor/continuation_arrow.h"
 #include "scale_editor/scale_controls.h"
+#include "widgets/line.h"
+#include "widgets/picture_box.h"
 
 namespace cirrava {
 
@@ -17,12 +19,12 @@ struct CirravaControls : ScaleControls, RangeBoxes, ColourControls {
     std::array<QLabel, 17> T1C;
     std::array<QLabel, 14> SS;
     std::array<QLabel, 6> hvc;
-    ContinuationMark Label22, Label23, Label24, Label25, Label26;
+    ContinuationArrow Label22, Label23, Label24, Label25, Label26;
 
     // HVC preview and brightness
     Button hvc_help;
     QLabel Label21, Label30, Label31, Label33;
-    PictureBox Picture1{QSize(100, 256)};
+    PictureBox Picture1;
 
     // Captions of the range boxes
     QLabel Label4, Label6, Label7, Label8, Label9, Label10, Label11;

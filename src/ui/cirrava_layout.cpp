@@ -3,6 +3,9 @@
 #include "scale_editor/qt_values.h"
 #include "ui/cirrava_tables.h"
 #include "ui/placing.h"
+#include "widgets/spoken_colour.h"
+
+#include <algorithm>
 
 namespace cirrava {
 
@@ -16,17 +19,19 @@ public:
     void place(const tables::Row<Control> (&rows)[count]) {
         for (const auto& row : rows) {
             Control& control = controls_.*row.control;
-            place(control, row.name, row.place);
-            finish(control, row.caption, row.look);
+            place(control, QString::fromLatin1(row.name), row.rect);
+            finish(control, QString::fromLatin1(row.caption), row.look);
         }
     }
 
+    // Tick i names cell 20 * i, the last one the last cell.
     template <std::size_t count>
-    void place_ticks(std::array<QLabel, count>& ticks, const char* name,
-                     const Place (&places)[count]) {
+    void place_ticks(std::array<QLabel, count>& ticks, const char* name, ScaleKind kind,
+                     const TwipRect (&rects)[count]) {
         for (std::size_t i = 0; i < count; ++i) {
-            place(ticks[i], member_name(name, i), places[i]);
-            finish(ticks[i], "", {.text = tables::black});
+            const int cell = std::min(20 * static_cast<int>(i), cell_count(kind) - 1);
+            place(ticks[i], member_name(name, i), rects[i]);
+            finish(ticks[i], to_qt(tick_text(kind, cell)), {.text = tables::black});
         }
     }
 
@@ -45,8 +50,8 @@ public:
         for (const tables::ScaleRow& row : tables::scales) {
             CellArray& cells = controls_.*row.control;
             cells.setParent(&window_);
-            cells.setObjectName(row.name);
-            cells.setAccessibleName(row.spoken);
+            cells.setObjectName(QString::fromLatin1(row.name));
+            cells.setAccessibleName(QString::fromLatin1(row.spoken));
             cells.lay_out(row.top, window_.logicalDpiX());
             cells.raise(); // above the temperatures between its rows
         }
@@ -54,34 +59,34 @@ public:
 
 private:
     static QString member_name(const char* array, std::size_t index) {
-        return QString("%1(%2)").arg(array).arg(index);
+        return QString("%1(%2)").arg(QLatin1StringView(array)).arg(index);
     }
 
-    void place(QWidget& control, const QString& name, const Place& box) {
-        cirrava::place(control, window_, name, box);
+    void place(QWidget& control, const QString& name, const TwipRect& rect) {
+        cirrava::place(control, window_, name, rect);
     }
 
-    static void finish(QLabel& label, const char* caption, const Look& look) {
-        dress(label, look);
+    static void finish(QLabel& label, const QString& caption, const Look& look) {
+        give_look(label, look);
         label.setTextFormat(Qt::PlainText);
         label.setWordWrap(true);
         label.setText(caption);
     }
 
-    static void finish(Button& button, const char* caption, const Look& look) {
-        dress(button, {.font = look.font});
+    static void finish(Button& button, const QString& caption, const Look& look) {
+        give_look(button, {.font = look.font});
         if (look.ground)
             button.set_face(*look.ground);
         button.setText(caption);
     }
 
-    static void finish(QLineEdit& box, const char* spoken, const Look& look) {
-        dress(box, look);
+    static void finish(QLineEdit& box, const QString& spoken, const Look& look) {
+        give_look(box, look);
         box.setReadOnly(true);
         box.setAccessibleName(spoken);
     }
 
-    static void finish(QWidget& control, const char* spoken, const Look&) {
+    static void finish(QWidget& control, const QString& spoken, const Look&) {
         control.setAccessibleName(spoken);
     }
 
@@ -114,12 +119,12 @@ void set_tab_order(CirravaControls& c) {
 
 void lay_out(CirravaControls& controls, QWidget& window) {
     window.setObjectName("Cirrava");
-    fix_frame(window, "Cirrava PAL", tables::client_area);
+    make_fixed_window(window, "Cirrava PAL", tables::client_area);
     window.setWindowIcon(program_icon());
 
     Builder builder(controls, window);
     builder.place(tables::labels);
-    builder.place(tables::marks);
+    builder.place(tables::arrows);
     builder.place(tables::lines);
     builder.place(tables::buttons);
     builder.place(tables::celsius_boxes);
@@ -127,9 +132,9 @@ void lay_out(CirravaControls& controls, QWidget& window) {
     builder.place(tables::bars);
     builder.place(tables::swatches);
     builder.place(tables::picture_boxes);
-    builder.place_ticks(controls.T1C, "T1C", tables::thermal_ticks);
-    builder.place_ticks(controls.SS, "SS", tables::sea_ticks);
-    builder.place_ticks(controls.hvc, "hvc", tables::hvc_ticks);
+    builder.place_ticks(controls.T1C, "T1C", ScaleKind::thermal, tables::thermal_ticks);
+    builder.place_ticks(controls.SS, "SS", ScaleKind::sea, tables::sea_ticks);
+    builder.place_ticks(controls.hvc, "hvc", ScaleKind::hvc, tables::hvc_ticks);
     builder.place_presets();
     builder.place_scales();
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/twips.h"
 #include "ui/cirrava_controls.h"
 #include "ui/look.h"
+#include "widgets/twips.h"
 
-// The layout of the main window, as data: one row per control, places in twips.
+// The layout of the main window, as data: one row per control, in twips.
 namespace cirrava::tables {
 
 using C = CirravaControls;
@@ -23,11 +23,11 @@ template <class Control> struct Row {
     Control C::*control;
     const char* name;
     const char* caption; // of a control without one: what a screen reader says
-    Place place;         // in twips
+    TwipRect rect;
     Look look;
 };
 
-inline constexpr Place client_area{0, 0, 14415, 9405};
+inline constexpr QSize client_area(14415, 9405); // in twips
 
 inline constexpr Row<QLabel> labels[]{
     {&C::Label1,
@@ -96,7 +96,7 @@ inline constexpr Row<QLabel> labels[]{
     {&C::Label17, "Label17", "", {10080, 8280, 375, 255}, standard},
 };
 
-inline constexpr Row<ContinuationMark> marks[]{
+inline constexpr Row<ContinuationArrow> arrows[]{
     {&C::Label22, "Label22", "Continues in the row below", {12240, 1920, 255, 495}, standard},
     {&C::Label23, "Label23", "Continues in the row below", {12240, 2400, 255, 495}, standard},
     {&C::Label24, "Label24", "Continues in the row below", {12240, 2880, 255, 495}, standard},
@@ -184,7 +184,7 @@ inline constexpr ScaleRow scales[]{
     {&C::Label3, "Label3", "HVC scale", 6360},
 };
 
-inline constexpr Place thermal_ticks[]{
+inline constexpr TwipRect thermal_ticks[]{
     {120, 2280, 1695, 255},  {2520, 2280, 1695, 255}, {4920, 2280, 1695, 255},
     {7320, 2280, 1695, 255}, {9720, 2280, 1695, 255}, {120, 2760, 1695, 255},
     {2520, 2760, 1695, 255}, {4920, 2760, 1695, 255}, {7320, 2760, 1695, 255},
@@ -193,7 +193,7 @@ inline constexpr Place thermal_ticks[]{
     {120, 3720, 1695, 255},  {2400, 3720, 1695, 255},
 };
 
-inline constexpr Place sea_ticks[]{
+inline constexpr TwipRect sea_ticks[]{
     {120, 4680, 1935, 255},  {2400, 4680, 1935, 255}, {4800, 4680, 1935, 255},
     {7440, 4680, 1935, 255}, {9840, 4680, 1935, 255}, {120, 5160, 1935, 255},
     {2400, 5160, 1935, 255}, {4800, 5160, 1935, 255}, {7440, 5160, 1935, 255},
@@ -201,7 +201,7 @@ inline constexpr Place sea_ticks[]{
     {4800, 5640, 975, 255},  {6000, 5640, 1215, 255},
 };
 
-inline constexpr Place hvc_ticks[]{
+inline constexpr TwipRect hvc_ticks[]{
     {120, 6600, 1455, 255},  {2400, 6600, 1455, 255}, {4800, 6600, 1455, 255},
     {7320, 6600, 1455, 255}, {9840, 6600, 1455, 255}, {12000, 6600, 1455, 255},
 };

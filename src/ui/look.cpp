@@ -12,8 +12,11 @@ namespace {
 // Outline fonts only, since captions are scaled and stretched. Of fonts of the same widths, the one
 // that most systems without the other have comes first: where a family is missing, the font system
 // searches and sorts for it at length.
-const QStringList sans_families{"Liberation Sans", "Arial", "DejaVu Sans"};
-const QStringList narrow_families{"Liberation Sans Narrow", "Arial Narrow", "Arial", "DejaVu Sans"};
+QStringList families(FontFamily family) {
+    if (family == FontFamily::narrow)
+        return {"Liberation Sans Narrow", "Arial Narrow", "Arial", "DejaVu Sans"};
+    return {"Liberation Sans", "Arial", "DejaVu Sans"};
+}
 
 // Without a look at its bytes, for which Qt would load all its image plugins.
 QImage read_png(const QString& file) {
@@ -61,14 +64,14 @@ QPalette light_palette() {
 
 QFont to_font(const FontLook& look) {
     QFont font;
-    font.setFamilies(look.family == FontFamily::narrow ? narrow_families : sans_families);
+    font.setFamilies(families(look.family));
     font.setPointSizeF(look.points);
     font.setBold(look.bold);
     font.setUnderline(look.underlined);
     return font;
 }
 
-void dress(QWidget& control, const Look& look) {
+void give_look(QWidget& control, const Look& look) {
     // What a look leaves open is left alone: controls that share the program's font and palette
     // share what the style has drawn for them, too.
     if (look.font != FontLook{}) {
@@ -88,27 +91,9 @@ void dress(QWidget& control, const Look& look) {
     control.setPalette(palette);
 }
 
-void fit(QWidget& control, const QString& caption, const QRect& box) {
-    constexpr int narrowest = 60; // percent; below it nobody could read it
-    const auto fits = [&] {
-        const QFontMetrics metrics = control.fontMetrics();
-        const QRect endless(0, 0, box.width(), QWIDGETSIZE_MAX);
-        const QSize room = metrics.boundingRect(endless, Qt::TextWordWrap, caption).size();
-        const bool one_line = room.height() < 2 * metrics.height();
-        return room.width() <= box.width() && (one_line || room.height() <= box.height());
-    };
-    QFont font = control.font();
-    for (int percent = 98; !fits() && percent >= narrowest; percent -= 2) {
-        font.setStretch(percent);
-        control.setFont(font);
-    }
-}
-
 QPixmap program_picture(double scale) {
-    const char* const file = scale <= 1   ? ":/picture.png"
-                             : scale <= 2 ? ":/picture@2x.png"
-                                          : ":/picture@3x.png";
-    QImage image = read_png(file);
+    const QString density = scale <= 1 ? QString() : QString("@%1x").arg(scale <= 2 ? 2 : 3);
+    QImage image = read_png(":/picture" + density + ".png");
     const QSize size = (QSizeF(72, 96) * scale).toSize();
     if (image.size() != size)
         image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -123,7 +108,7 @@ QIcon program_icon() {
     return icon;
 }
 
-void dress(QApplication& application) {
+void set_program_look(QApplication& application) {
     QApplication::setStyle(new ProgramStyle); // the application owns it
     QApplication::setPalette(light_palette());
     application.setFont(to_font({}));

@@ -31,12 +31,7 @@ struct Look {
 QFont to_font(const FontLook& look);
 
 // Gives `control` the font and text colour of `look`, and its ground where the control fills one.
-void dress(QWidget& control, const Look& look);
-
-// Narrows the font of `control` until its caption fits `box` (in the control's pixels), wrapped
-// where the box has room for several lines. Fonts differ in width from one machine to the next;
-// places do not.
-void fit(QWidget& control, const QString& caption, const QRect& box);
+void give_look(QWidget& control, const Look& look);
 
 // The satellite above the earth: 72 x 96 pixels, sharp at `scale` device pixels to a pixel.
 QPixmap program_picture(double scale);
@@ -44,6 +39,6 @@ QPixmap program_picture(double scale);
 QIcon program_icon();
 
 // The Fusion style with one fixed light palette and the standard font. Before any window is made.
-void dress(QApplication& application);
+void set_program_look(QApplication& application);
 
 } // namespace cirrava

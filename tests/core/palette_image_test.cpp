@@ -49,15 +49,6 @@ TEST(PaletteImage, HvcRowsAreStoredFromTheDarkestUp) {
     EXPECT_EQ(part(image, 76851, 76854), (Bytes{128, 227, 255}));
 }
 
-TEST(PaletteImage, AShiftChangesTheSelectedCellsAsFarAsTheyGo) {
-    std::vector<Colour> cells(100, RGB(250, 100, 3));
-    cells = shift_brightness(cells, {.levels = brightness_levels(1), .first = 98, .last = 319});
-    EXPECT_EQ(cells[97], RGB(250, 100, 3));
-    EXPECT_EQ(cells[99], RGB(245, 95, 0));
-    cells = shift_brightness(cells, {.levels = brightness_levels(-5), .first = 0, .last = 0});
-    EXPECT_EQ(cells[0], RGB(255, 121, 24));
-}
-
 TEST(PaletteReading, OnlyTheSizeInACompleteHeaderNamesThePalette) {
     const Bytes good = headers(0x40, 1, 1, 0);
     EXPECT_FALSE(is_bitmap(part(good, 0, 1)));
@@ -66,9 +57,9 @@ TEST(PaletteReading, OnlyTheSizeInACompleteHeaderNamesThePalette) {
     Bytes odd = good;
     std::fill(odd.begin() + 2, odd.begin() + 18, std::uint8_t{124});
     std::fill(odd.begin() + 26, odd.end(), std::uint8_t{8});
-    EXPECT_EQ(palette_layout(odd)->kind, ScaleKind::thermal);
-    EXPECT_EQ(palette_layout(headers(250, 0, 1, 0))->kind, ScaleKind::sea);
-    EXPECT_EQ(palette_layout(headers(100, 0, 0, 1))->kind, ScaleKind::hvc);
+    EXPECT_EQ(palette_layout(odd).value().kind, ScaleKind::thermal);
+    EXPECT_EQ(palette_layout(headers(250, 0, 1, 0)).value().kind, ScaleKind::sea);
+    EXPECT_EQ(palette_layout(headers(100, 0, 0, 1)).value().kind, ScaleKind::hvc);
     EXPECT_FALSE(palette_layout(headers(0x40, 1, 0, 1))); // 320 x 256
     std::fill(odd.begin() + 22, odd.begin() + 26, std::uint8_t{0xFF});
     EXPECT_FALSE(palette_layout(odd)); // stored top down, height -1
@@ -78,11 +69,11 @@ TEST(PaletteReading, PixelsStandInStepsOfFourBytesAfterTheHeaders) {
     const std::pair<std::int32_t, long> cases[]{
         {54, 54}, {-1, 54}, {57, 54}, {58, 58}, {138, 138}, {INT32_MAX, 2147483646},
     };
-    for (const auto& [bfOffBits, place] : cases) {
+    for (const auto& [bfOffBits, offset] : cases) {
         Bytes bytes = headers(0x40, 1, 1, 0);
         for (int i = 0; i < 4; ++i)
             bytes[10U + i] = static_cast<std::uint8_t>(bfOffBits >> 8 * i);
-        EXPECT_EQ(palette_layout(bytes)->pixels_at, place) << bfOffBits;
+        EXPECT_EQ(palette_layout(bytes).value().pixels_offset, offset) << bfOffBits;
     }
 }
 

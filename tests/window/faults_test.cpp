@@ -9,6 +9,17 @@ namespace cirrava {
 
 namespace {
 
+// Does `action` while a limit of the process is lowered.
+void with_limit(decltype(RLIMIT_FSIZE) resource, rlim_t value,
+                const std::function<void()>& action) {
+    rlimit before{};
+    getrlimit(resource, &before);
+    const rlimit lowered{.rlim_cur = value, .rlim_max = before.rlim_max};
+    setrlimit(resource, &lowered);
+    action();
+    setrlimit(resource, &before);
+}
+
 class Faults : public WindowTest {
 protected:
     Faults() {
@@ -65,7 +76,6 @@ TEST_F(Faults, OfANameAreToldByNumberAndChangeNothing) {
     expect_numbers(make("file", 0644) + "/a.bmp", 76, 76);
     for (const QString& no_file : {folder.path(), pipe, QString("/dev/null")})
         expect_numbers(no_file, 75, 75);
-    EXPECT_TRUE(user.heard[0].startsWith("Read and Load palette:  of *.bmp in "));
 
     user.path = make(".hidden.bmp", 0644); // does not count as there
     press("hvc_command");
@@ -75,28 +85,42 @@ TEST_F(Faults, OfANameAreToldByNumberAndChangeNothing) {
 TEST_F(Faults, OfPermissionAreToldByNumberAndChangeNothing) {
     const QString read_only = make("read-only.bmp", 0444);
     const QString secret = make("secret.bmp", 0200);
+    const QTemporaryDir documents;
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", documents.path().toUtf8());
+    chmod(documents.path().toUtf8(), 0777);
     chmod(folder.path().toUtf8(), 0555);
     const bool root = geteuid() == 0; // whom permissions do not bind
-    ASSERT_TRUE(!root || seteuid(65534) == 0);
+    ASSERT_TRUE(!root || setresuid(65534, 65534, 0) == 0);
     expect_numbers(read_only, 75, 0);
     expect_numbers(secret, 0, 75);
     expect_numbers(folder.filePath("new.bmp"), 75, 53);
-    ASSERT_TRUE(!root || seteuid(0) == 0);
+    const Dialogs dialogs = user.dialogs();
+    CommonDialog dialog(dialogs);
+    dialog.CancelError = true;
+    dialog.InitDir = folder.path();
+    dialog.ShowSave();
+    EXPECT_TRUE(user.heard.last().endsWith(" in " + documents.path()));
+    ASSERT_TRUE(!root || setresuid(0, 0, 0) == 0);
     chmod(folder.path().toUtf8(), 0755);
+    qputenv("HOME", home);
 }
 
-TEST_F(Faults, OfAFullDiskIsToldByNumberAndChangesNothing) {
+TEST_F(Faults, OfAFullDiskAndOfTooManyFilesAreToldByNumber) {
     const QString file = make("a.bmp", 0644);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    rlimit small{.rlim_cur = 50, .rlim_max = before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-    expect_numbers(file, 61, 0);
-    small.rlim_cur = 76'853; // of the preview, only the last bytes do not fit
-    setrlimit(RLIMIT_FSIZE, &small);
-    brightness().setValue(6);
-    EXPECT_EQ(user.heard.takeLast(), "Error # 61 A problem occured during file creation");
-    setrlimit(RLIMIT_FSIZE, &before);
+    const QString message = "Error # 61 A problem occured during file creation";
+    with_limit(RLIMIT_FSIZE, 50, [&] {
+        expect_numbers(file, 61, 0);
+        brightness().setValue(6);
+        EXPECT_EQ(hvc().colour(5), RGB(255, 255, 0)); // not even the headers fit
+    });
+    with_limit(RLIMIT_FSIZE, 76'853, [&] { // all but the last byte fits
+        brightness().setValue(4);
+        EXPECT_EQ(user.heard.takeLast(), message);
+        EXPECT_EQ(hvc().colour(5), RGB(250, 250, 0));
+    });
+    with_limit(RLIMIT_NOFILE, 3,
+               [&] { expect_told("Command5", file, "Error # 67 Cannot Read File"); });
     press("hvc_command"); // and when the circumstances are better, so is the outcome
     EXPECT_EQ(QFile(file).size(), 76854);
 }
@@ -111,6 +135,10 @@ TEST_F(Faults, ARemovedCurrentFolderFailsThePreviewOnly) {
     apply(0);
     EXPECT_EQ(hvc().colour(5), RGB(255, 255, 255));
     EXPECT_EQ(find<PictureBox>("Picture1").image().pixel(5, 127), qRgb(255, 255, 255));
+    QTest::keySequence(&window, QKeySequence::Undo);
+    EXPECT_EQ(user.heard.size(), 3); // an undo that succeeds tells nothing
+    EXPECT_EQ(hvc().colour(5), RGB(255, 255, 0));
+    EXPECT_EQ(find<PictureBox>("Picture1").image().pixel(5, 127), qRgb(255, 255, 0));
 }
 
 } // namespace cirrava

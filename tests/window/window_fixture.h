@@ -40,13 +40,17 @@ struct User {
     }
 };
 
-// Does `action` in the next modal window of type `Dialog`, as soon as it has the keyboard.
+// Does `action` in the next modal window of type `Dialog`, as soon as it has the keyboard, and
+// closes the window where the action has not.
 template <class Dialog> void in_next(std::function<void(Dialog&)> action) {
     QTimer::singleShot(0, [action] {
         auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == dialog; }));
+        if (dialog == nullptr)
+            qFatal("another window than expected, or none, has opened");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
         action(*dialog);
+        if (dialog->isVisible())
+            dialog->reject();
     });
 }
 
@@ -54,7 +58,7 @@ template <class Dialog> void in_next(std::function<void(Dialog&)> action) {
 template <class Control> Control& find_in(const QWidget& window, const QString& name) {
     auto* const control = window.findChild<Control*>(name);
     if (control == nullptr)
-        throw std::runtime_error("no control " + name.toStdString());
+        qFatal("no control %s", qPrintable(name));
     return *control;
 }
 

@@ -1,6 +1,4 @@
-#include "platform/common_dialog.h"
-
-#include "platform/failure.h"
+#include "widgets/common_dialog.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -21,17 +19,15 @@ QString writable_folder(const QString& wanted) {
 } // namespace
 
 void CommonDialog::ShowOpen() {
-    take_path(dialogs_.open(file_question()));
+    FileName = given(dialogs_.open(file_question()));
 }
 
 void CommonDialog::ShowSave() {
-    take_path(dialogs_.save(file_question()));
+    FileName = given(dialogs_.save(file_question()));
 }
 
 void CommonDialog::ShowColor() {
-    const auto colour = dialogs_.colour(Color);
-    check_cancel(colour.has_value());
-    Color = colour.value_or(Color);
+    Color = given(dialogs_.colour(Color));
 }
 
 FileQuestion CommonDialog::file_question() const {
@@ -44,14 +40,11 @@ FileQuestion CommonDialog::file_question() const {
             .name = is_pattern ? QString() : file.fileName()};
 }
 
-void CommonDialog::take_path(const std::optional<QString>& path) {
-    check_cancel(path.has_value());
-    FileName = path.value_or(FileName);
-}
-
-void CommonDialog::check_cancel(bool answered) const {
-    if (!answered && CancelError)
+template <class Answer> Answer CommonDialog::given(const std::optional<Answer>& answer) const {
+    Q_ASSERT(CancelError);
+    if (!answer)
         throw Failure{FailureNumber::cancelled};
+    return *answer;
 }
 
 } // namespace cirrava

@@ -44,6 +44,6 @@ inline QString failure_message(const QString& start, const Failure& failure, con
 }
 
 // The title of every message that gives none of its own.
-inline const QString program_title = QStringLiteral("CirravaPal");
+inline constexpr QLatin1StringView program_title("CirravaPal");
 
 } // namespace cirrava

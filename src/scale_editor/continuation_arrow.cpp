@@ -1,11 +1,11 @@
-#include "scale_editor/continuation_mark.h"
+#include "scale_editor/continuation_arrow.h"
 
 #include <QPainter>
 #include <QPainterPath>
 
 namespace cirrava {
 
-void ContinuationMark::paintEvent(QPaintEvent*) {
+void ContinuationArrow::paintEvent(QPaintEvent*) {
     // Drawn on a field 12 wide and 14 high, in the middle of the box: down, then to the right.
     QPainterPath shaft({2, 1});
     shaft.lineTo(2, 5);

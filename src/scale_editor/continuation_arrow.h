@@ -5,7 +5,7 @@
 namespace cirrava {
 
 // The red arrow at the end of a row of cells that goes on in the row below.
-class ContinuationMark : public QWidget {
+class ContinuationArrow : public QWidget {
     Q_OBJECT
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/dialogs.h"
+#include "widgets/dialogs.h"
 
 namespace cirrava {
 
@@ -19,7 +19,7 @@ public:
     // Where a dialog opens when FileName has no folder; where the user may not write there, it
     // opens in the user's documents folder or home instead.
     QString InitDir;
-    bool CancelError = false; // whether a cancel throws Failure{cancelled} or just returns
+    bool CancelError = false; // true at each call: a cancel throws Failure{cancelled}
     QColor Color = Qt::black; // shown first by ShowColor; after it: the colour chosen
 
     void ShowOpen();
@@ -28,8 +28,7 @@ public:
 
 private:
     FileQuestion file_question() const;
-    void take_path(const std::optional<QString>& path);
-    void check_cancel(bool answered) const;
+    template <class Answer> Answer given(const std::optional<Answer>& answer) const;
 
     const Dialogs& dialogs_;
 };

@@ -1,0 +1,57 @@
+#include "widgets/button.h"
+
+#include "widgets/focus_outline.h"
+
+#include <QKeyEvent>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+namespace cirrava {
+
+Button::Button() {
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void Button::set_face(const QColor& face) {
+    if (face == face_)
+        return;
+    face_ = face;
+    update();
+}
+
+QRect Button::caption_box() const {
+    return rect() - focus_margins;
+}
+
+void Button::paintEvent(QPaintEvent*) {
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    QStylePainter painter(this);
+    if (face_.isValid())
+        paint_face(painter, isDown() ? face_.darker(125) : face_);
+    else
+        painter.drawControl(QStyle::CE_PushButtonBevel, option);
+    const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    painter.setPen(palette().color(group, QPalette::ButtonText));
+    painter.drawText(caption_box(), Qt::AlignCenter | Qt::TextDontClip | Qt::TextWordWrap, text());
+    paint_focus_outline(painter, *this,
+                        face_.isValid() ? face_ : palette().color(QPalette::Button));
+}
+
+// Qt lets Enter press a button in dialogs only.
+void Button::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+// With a fine outline that leaves out the corners.
+void Button::paint_face(QStylePainter& painter, const QColor& colour) const {
+    const QColor outline = palette().color(QPalette::Window).darker(170);
+    painter.fillRect(rect().adjusted(1, 0, -1, 0), outline);
+    painter.fillRect(rect().adjusted(0, 1, 0, -1), outline);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), colour);
+}
+
+} // namespace cirrava

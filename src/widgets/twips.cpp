@@ -1,0 +1,19 @@
+#include "widgets/twips.h"
+
+namespace cirrava {
+
+namespace {
+
+int pixels(int twips, int dpi) {
+    return qRound(twips * dpi / 1440.0);
+}
+
+} // namespace
+
+QRect to_pixels(const TwipRect& rect, int dpi) {
+    const QPoint top_left{pixels(rect.left, dpi), pixels(rect.top, dpi)};
+    const QPoint past_end{pixels(rect.left + rect.width, dpi), pixels(rect.top + rect.height, dpi)};
+    return {top_left, past_end - QPoint{1, 1}};
+}
+
+} // namespace cirrava

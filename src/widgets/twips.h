@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QRect>
+
+namespace cirrava {
+
+// A rectangle in twips, 1440 to the inch, from the top left of its window's client area.
+struct TwipRect {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+};
+
+// `rect` in the pixels of a window with `dpi` logical dots per inch (15 twips to a pixel at 96).
+// Edges are rounded, not sizes, so that rectangles that touch in twips touch in pixels.
+QRect to_pixels(const TwipRect& rect, int dpi);
+
+} // namespace cirrava
