@@ -18,18 +18,13 @@ same() { [[ $2 == "$3" ]] || fail "$1: found '$2', expected '$3'"; }
 # first_match EXPRESSION FILE: what is in the expression's parentheses.
 first_match() { sed -nE "s/.*$1.*/\\1/p;T;q" "$2"; }
 
-check_versions() {
-    local version short date
-    version=$(first_match 'project\(.* VERSION ([0-9.]+)' "$top/CMakeLists.txt")
-    short=${version%.0}
-    date=$(dpkg-parsechangelog --file "$packaging/changelog" --show-field Date)
+# check_changelogs VERSION DATE
+check_changelogs() {
+    local changelog=$packaging/changelog date
+    date=$(dpkg-parsechangelog --file "$changelog" --show-field Date)
     same "the package's changelog" \
-        "$(dpkg-parsechangelog --file "$packaging/changelog" --show-field Version)" "$version"
-    same "the metainfo" "$(first_match '<release (.*)>' "$packaging/$id.metainfo.xml")" \
-        "version=\"$short\" date=\"$(date --date "$date" +%F)\""
-    same "CHANGELOG.md" "$(first_match '^## (.*)' "$top/CHANGELOG.md")" "$short ($(date --date "$date" +%F))"
-    same "the manual page" "$(first_match ' 1 (.*) "User' "$packaging/cirrava-pal.1")" \
-        "$(date --date "$date" +%F) \"Cirrava PAL $short\""
+        "$(dpkg-parsechangelog --file "$changelog" --show-field Version) $(date --date "$date" +%F)" "$1 $2"
+    same "CHANGELOG.md" "$(first_match '^## (.*)' "$top/CHANGELOG.md")" "${1%.0} ($2)"
 }
 
 # check_files WHAT FOLDER
@@ -49,9 +44,7 @@ purge() { "${as_root[@]}" dpkg --purge cirrava-pal; }
 
 install_packages "${build_packages[@]}" "${package_packages[@]}" "${package_check_packages[@]}" \
     "${screen_packages[@]}"
-check_versions
 same "desktop-file-validate" "$(desktop-file-validate "$packaging/$id.desktop" 2>&1)" ""
-appstreamcli validate --no-net --strict "$packaging/$id.metainfo.xml"
 
 "$packaging/make.sh"
 package=$(echo "$top"/build/release/cirrava-pal_*.deb)
@@ -63,6 +56,9 @@ echo "Installed files and a picture are in $folder until the end."
 check_files "cmake --install" "$folder/by-cmake"
 dpkg-deb --extract "$package" "$folder/by-package"
 check_files "the package" "$folder/by-package"
+metainfo=$folder/by-package/usr/share/metainfo/$id.metainfo.xml
+appstreamcli validate --no-net --strict "$metainfo"
+check_changelogs "$(dpkg-deb --field "$package" Version)" "$(first_match '<release .*date="(.*)"' "$metainfo")"
 # Under Wayland a desktop knows the window by it; under X11 by the window's class.
 grep --quiet "$id" "$folder/by-package/usr/bin/cirrava-pal" || fail "the program does not set its id"
 
