@@ -1,28 +1,141 @@
-#include "promises.h"
+// Measures what the program does while it runs. Prints the name of each action and its
+// milliseconds.
+
+#include "palette_files/palette_image.h"
+#include "platform/binary_file.h"
+#include "ui/cirrava.h"
 #include "ui/look.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+
+namespace {
+
+using namespace cirrava;
+
+constexpr int rounds = 501;
+
+// The milliseconds of an action, the mean of so many in a row.
+template <class Action> double time(int times, Action action) {
+    const auto begin = std::chrono::steady_clock::now();
+    for (int i = 0; i < times; ++i)
+        action();
+    const std::chrono::duration<double, std::milli> all = std::chrono::steady_clock::now() - begin;
+    return all.count() / times;
+}
+
+struct Task {
+    const char* name;
+    std::function<double()> milliseconds;
+    std::vector<double> results{};
+};
+
+// The tasks take turns, and so share what else the machine does meanwhile. Prints the medians.
+void measure(std::vector<Task> tasks) {
+    for (int round = 0; round < rounds; ++round)
+        for (Task& task : tasks)
+            task.results.push_back(task.milliseconds());
+    for (Task& task : tasks) {
+        std::sort(task.results.begin(), task.results.end());
+        std::printf("%s %f\n", task.name, task.results[rounds / 2]);
+    }
+}
+
+void measure_palette() {
+    std::vector<Colour> cells(cell_count(ScaleKind::hvc));
+    std::generate(cells.begin(), cells.end(), [i = 0]() mutable {
+        ++i;
+        return RGB(2 * i, 255 - i, i);
+    });
+    const Bytes image = hvc_image(cells, cells);
+    volatile std::uint8_t seen = 0; // a byte of what is made, or the compiler would not make it
+    const auto fwrite_all = [&] {
+        std::FILE* const file = std::fopen("bench.bmp", "r+b");
+        if (file == nullptr || std::fwrite(image.data(), 1, image.size(), file) != image.size() ||
+            std::fclose(file) != 0)
+            qFatal("the file cannot be written");
+    };
+    const auto write_all = [&] {
+        BinaryFile file("bench.bmp", FileAccess::read_write);
+        file.write(image);
+        file.close();
+    };
+    write_all(); // fwrite_all makes no file
+    measure({
+        {"copy_image", [&] { return time(50, [&] { seen = Bytes(image).front(); }); }},
+        {"build_image", [&] { return time(50, [&] { seen = hvc_image(cells, cells).front(); }); }},
+        {"fwrite_file", [&] { return time(20, fwrite_all); }},
+        {"write_file", [&] { return time(20, write_all); }},
+    });
+}
+
+// Counts the repaints of a widget, so that none is left out of a measured time.
+class Repaints : public QObject {
+public:
+    explicit Repaints(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
+void measure_window() {
+    Cirrava window({.tell = [](const QString& text) { qFatal("%s", qPrintable(text)); }});
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window))
+        qFatal("the window does not open");
+
+    // The action, every event handled to its end, with one repaint of the widget each time.
+    const auto measure_one = [](const char* name, QWidget& repainted, auto prepare, auto act) {
+        QCoreApplication::processEvents();
+        Repaints repaints(repainted);
+        measure({{name, [&] {
+                      prepare();
+                      QCoreApplication::processEvents();
+                      return time(1, [&] {
+                          act();
+                          QCoreApplication::processEvents();
+                      });
+                  }}});
+        if (repaints.count != rounds)
+            qFatal("not every step was painted once");
+    };
+    const auto mark_all = [](CellArray& cells, int count) {
+        const auto middle = [&](int cell) { return cells.cell_box(cell).topLeft() + QPoint(3, 5); };
+        QTest::mouseClick(&cells, Qt::LeftButton, {}, middle(0));
+        QTest::mouseClick(&cells, Qt::RightButton, {}, middle(count - 1));
+    };
+
+    auto& thermal = *window.findChild<CellArray*>("thermal_char");
+    auto& red = *window.findChild<NumberBar*>("HScroll1");
+    auto& apply = *window.findChild<Button*>("Command2");
+    mark_all(thermal, cell_count(ScaleKind::thermal));
+    measure_one(
+        "apply", thermal, [&] { red.setValue((red.value() + 1) % 256); }, [&] { apply.click(); });
+
+    auto& brightness = *window.findChild<NumberBar*>("HScroll4");
+    mark_all(*window.findChild<CellArray*>("Label3"), cell_count(ScaleKind::hvc));
+    measure_one(
+        "brightness_step", *window.findChild<PictureBox*>("Picture1"), [] {},
+        [&] { brightness.setValue(brightness.value() == 4 ? 6 : 4); });
+}
+
+} // namespace
 
 int main(int argc, char* argv[]) {
     QApplication::setDesktopSettingsAware(false);
     QApplication application(argc, argv);
-    cirrava::dress(application);
+    dress(application);
     const QTemporaryDir folder; // for the files that are written
     QDir::setCurrent(folder.path());
-
-    benchmark::Initialize(&argc, argv);
-    promises::Medians medians;
-    benchmark::RunSpecifiedBenchmarks(&medians);
-    const auto milliseconds = [&](const char* name) { return medians[name].milliseconds; };
-    promises::tell("Building the HVC image, against a copy of its bytes",
-                   milliseconds("build_hvc_image") / milliseconds("copy_hvc_image"), "times", 4);
-    promises::tell("Writing the HVC file, against one fwrite of its bytes",
-                   milliseconds("write_hvc_file") / milliseconds("fwrite_hvc_file"), "times", 1.5);
-    promises::tell("Apply to all 320 Thermal cells, with the repaint",
-                   milliseconds("apply_to_all_thermal_cells"), "ms", 1);
-    promises::tell("One brightness step, both files and the preview included",
-                   milliseconds("brightness_step"), "ms", 4);
-    return medians.failed ? 1 : 0;
+    measure_palette();
+    measure_window();
 }
