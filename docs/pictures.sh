@@ -2,11 +2,9 @@
 # Takes the pictures of the README from the built program. pictures.sh PROGRAM
 set -euo pipefail
 program=$(realpath "$1")
-docs=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-folder=/tmp/palettes # is seen on a picture
-mkdir "$folder"
-. "$docs/../scripts/screen.sh"
-. "$docs/../scripts/places.sh"
+top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$top/scripts/screen.sh"
+. "$top/scripts/places.sh"
 
 # palette WIDTH HEIGHT COLOURS...: a smooth run through the colours, coldest first.
 palette() {
@@ -15,12 +13,10 @@ palette() {
     convert "${@/#/xc:}" +append -filter triangle -resize "$size" BMP3:-
 }
 
-# load_palette FILE LAST-CELL COLOUR: and waits until that cell shows it.
 load_palette() {
-    click $load
+    click "${load[@]}"
     choose_file "Read and Load palette" "$folder/$1"
     in_window "Cirrava PAL"
-    see $2 "$3"
 }
 
 # start [VARIABLE=VALUE...]: opens the window and loads the three palettes.
@@ -29,29 +25,32 @@ start() {
     program_id=$!
     in_window "Cirrava PAL"
     window=$(xdotool getactivewindow)
-    load_palette thermal.bmp "$(thermal_cell 319)" 601010
-    load_palette sea.bmp "$(sea_cell 249)" 801020
-    load_palette hvc.bmp "$(hvc_cell 99)" c87840
+    load_palette thermal.bmp
+    thermal_cell 319 see 601010
+    load_palette sea.bmp
+    sea_cell 249 see 801020
+    load_palette hvc.bmp
+    hvc_cell 99 see c87840
     # A double click and Apply give a cell the colour it has, and bring the preview up to date.
-    click $(hvc_cell 44)
-    click $(hvc_cell 44)
-    click $(hvc_cell 44) 3
-    click $apply
+    hvc_cell 44 click
+    hvc_cell 44 click
+    hvc_cell 44 click 3
+    click "${apply[@]}"
 }
 
 mark_range() {
-    click $(thermal_cell 220)
-    click $(thermal_cell 259) 3
+    thermal_cell 220 click
+    thermal_cell 259 click 3
 }
 
 apply_red() {
-    click $preset_9
-    click $apply
-    see $(thermal_cell 259) ff0000
+    click "${preset_9[@]}"
+    click "${apply[@]}"
+    thermal_cell 259 see ff0000
 }
 
 leave() {
-    click $quit
+    click "${quit[@]}"
     wait "$program_id"
 }
 
@@ -62,9 +61,13 @@ take() {
     place=$(xwininfo -id "$window" | awk '/Absolute upper-left X/ { x = $4 }
         /Absolute upper-left Y/ { y = $4 } /Width/ { w = $2 } /Height/ { h = $2 }
         END { print w "x" h "+" x "+" y }')
-    import -window root -crop "$place" +repage -strip "$docs/$1.png"
+    import -window root -crop "$place" +repage -strip "$top/docs/$1.png"
 }
 
+# Its name is seen on a picture. A link, since what a failed run has left must not be in the way, and
+# nobody's own folder lost.
+folder=/tmp/palettes
+ln --symbolic --force --no-target-directory "$(mktemp --directory)" "$folder"
 cd "$folder"
 palette 320 1 '#fff' '#e8d8ff' '#b060d0' '#5030b0' '#2060e0' '#20b0f0' '#40d8c0' '#40b040' \
     '#c8d840' '#f8e040' '#f09030' '#d03020' '#601010' >thermal.bmp
@@ -76,23 +79,23 @@ open_screen 2048x1400
 start
 mark_range
 take step-2-range
-click $preset_9
-see $swatch ff0000
+click "${preset_9[@]}"
+see "${swatch[@]}" ff0000
 take step-3-colour
 apply_red
 take main-window
-click $thermal_command
+click "${thermal_command[@]}"
 choose_file "Create Thermal" "$folder/my palette.bmp"
 in_window "Ready to create"
 take step-6-write
 xdotool key Escape
 in_window "Cirrava PAL"
-click $(hvc_cell 60)
-click $(hvc_cell 74) 3
-click $apply
-see $(hvc_cell 70) ff0000
-click $darker
-see $(hvc_cell 70) fa0000
+hvc_cell 60 click
+hvc_cell 74 click 3
+click "${apply[@]}"
+hvc_cell 70 see ff0000
+click "${darker[@]}"
+hvc_cell 70 see fa0000
 take step-5-hvc
 leave
 
@@ -102,4 +105,4 @@ mark_range
 apply_red
 take main-window-at-scale-2
 leave
-rm -r "$folder"
+rm -r "$(realpath "$folder")" "$folder"

@@ -3,13 +3,13 @@
 # try_installed.sh FOLDER: keeps a picture of the window in FOLDER.
 set -euo pipefail
 folder=$(realpath "$1")
-packaging=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-. "$packaging/../scripts/screen.sh"
-. "$packaging/../scripts/places.sh"
+top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$top/scripts/screen.sh"
+. "$top/scripts/places.sh"
 
 value_of() { sed -n "s/^$1=//p" /usr/share/applications/org.cirrava.CirravaPal.desktop; }
 
-open_screen
+open_screen 1280x800
 mkdir "$folder/home"
 cd "$folder/home"
 env --unset=XDG_CONFIG_HOME HOME="$folder/home" "$(value_of Exec)" &
@@ -17,13 +17,13 @@ program_id=$!
 started+=("$program_id")
 in_window "$(value_of Name)"
 window=$(xdotool getactivewindow)
-see $swatch 000000
+see "${swatch[@]}" 000000
 picture installed
 
 class=$(xprop -id "$window" WM_CLASS)
 [[ $class == *"\"$(value_of StartupWMClass)\""* ]] || fail "the desktop entry does not name $class"
 
-click $quit
+click "${quit[@]}"
 wait "$program_id" || fail "the program ended with status $?"
 rmdir "$folder/home" || fail "the program has left something behind"
 echo "The installed program starts, shows its window and quits."

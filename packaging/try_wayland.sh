@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Starts and quits the program under Wayland, with a compositor that has no screen. try_wayland.sh PROGRAM
 set -euo pipefail
-packaging=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-. "$packaging/../scripts/screen.sh"
+top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$top/scripts/screen.sh"
 
 on_private_bus "$@"
 folder=$(mktemp --directory)
@@ -15,7 +15,7 @@ wait_until test -S "$folder/$WAYLAND_DISPLAY"
 open_accessibility_bus
 "$1" &
 program_id=$!
-wait_until /usr/bin/python3 "$packaging/../scripts/accessible.py"
+wait_until /usr/bin/python3 "$top/scripts/accessible.py"
 wait "$program_id" || fail "the program ended with status $?"
 rm -r "$folder"
 echo "The program starts, shows its window and quits under Wayland."

@@ -5,7 +5,13 @@
 patience=60 # seconds
 
 started=()
-trap 'for id in "${started[@]}"; do kill "$id" 2>/dev/null || true; done' EXIT
+stop_started() {
+    local id
+    for id in "${started[@]}"; do
+        kill "$id" 2>/dev/null || true
+    done
+}
+trap stop_started EXIT
 
 fail() {
     echo "FAILED: $*" >&2
@@ -29,12 +35,12 @@ window_manager_answers() {
     [[ $(xdotool get_num_desktops) == 7 ]]
 }
 
-# open_screen [SIZE]
+# open_screen SIZE
 open_screen() {
     local number="$folder/.display"
     : >"$number"
     # Without -noreset it starts anew when its last client leaves, and turns others away meanwhile.
-    Xvfb -noreset -displayfd 3 -screen 0 "${1:-1280x800}x24" -nolisten tcp 3>"$number" 2>/dev/null &
+    Xvfb -noreset -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$number" 2>/dev/null &
     started+=($!)
     wait_until test -s "$number"
     DISPLAY=:$(<"$number")

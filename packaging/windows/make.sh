@@ -19,7 +19,7 @@ fetch_qt() {
     local apt=(apt-get --option "Dir::State=$folder/apt" --option "Dir::Cache=$folder/apt"
         --option "Dir::Etc::SourceList=$folder/apt/sources.list" --option Dir::Etc::SourceParts=/dev/null)
     mkdir -p "$folder/apt/lists/partial"
-    apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) $(COMPONENT)' \
+    apt-get indextargets --format "deb-src \$(REPO_URI) \$(RELEASE) \$(COMPONENT)" \
         'Created-By: Packages' 'Origin: Debian' >"$folder/apt/sources.list"
     "${apt[@]}" update
     (cd "$folder/apt" && "${apt[@]}" --download-only source "qt6-base=$version")
