@@ -5,6 +5,7 @@
 #include "platform/binary_file.h"
 #include "ui/cirrava.h"
 #include "ui/look.h"
+#include "ui/set_up_process.h"
 
 #include <QApplication>
 #include <QDir>
@@ -125,15 +126,15 @@ void measure_window() {
     mark_all(*window.findChild<CellArray*>("Label3"), cell_count(ScaleKind::hvc));
     measure_one(
         "brightness_step", *window.findChild<PictureBox*>("Picture1"), [] {},
-        [&] { brightness.setValue(brightness.value() == 4 ? 6 : 4); });
+        [&, darker = false]() mutable { brightness.setValue((darker = !darker) ? 4 : 6); });
 }
 
 } // namespace
 
 int main(int argc, char* argv[]) {
-    QApplication::setDesktopSettingsAware(false);
+    set_up_process();
     QApplication application(argc, argv);
-    dress(application);
+    set_program_look(application);
     const QTemporaryDir folder; // for the files that are written
     QDir::setCurrent(folder.path());
     measure_palette();

@@ -2,6 +2,7 @@
 // program's window and, as a measure for it, with one of the same size that has a line of text.
 #include "ui/cirrava.h"
 #include "ui/look.h"
+#include "ui/set_up_process.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -30,7 +31,7 @@ public:
 class LineWindow : public QWidget {
 public:
     LineWindow() {
-        dress(*qApp);
+        set_program_look(*qApp);
         setFixedSize(961, 627);
     }
 
@@ -41,7 +42,7 @@ protected:
 };
 
 Dialogs dressed() {
-    dress(*qApp); // before the first control is made
+    set_program_look(*qApp); // before the first control is made
     return {};
 }
 
@@ -53,7 +54,7 @@ public:
 } // namespace
 
 int main(int argc, char* argv[]) {
-    QApplication::setDesktopSettingsAware(false);
+    set_up_process();
     QApplication application(argc, argv);
     WINDOW window;
     EndAfterFirstFrame end;

@@ -93,8 +93,6 @@ see() { wait_until shows "$@"; }
 
 picture() { import -window root "$folder/$1.png"; }
 
-has_size() { [[ $(stat --format=%s "$1") == "$2" ]]; }
-
 # choose_file TITLE PATH: types the path into the file dialog of that title, and confirms.
 choose_file() {
     in_window "$1"

@@ -14,32 +14,23 @@ save_as() {
     in_window "Ready to create"
 }
 
-# keys KEY...: presses each; 4*Tab is Tab four times.
-keys() {
-    local key
-    for key in "$@"; do
-        [[ $key == *\** ]] || key="1*$key"
-        xdotool key --repeat "${key%\**}" "${key#*\*}"
-    done
-}
+has_sum() { [[ $(sha256sum <"$1") == "$2  -" ]]; }
 
-# expect_file FILE SIZE SHA256: waits for the size, then compares the whole.
+# expect_file FILE SHA256
 expect_file() {
-    wait_until has_size "$1" "$2"
-    [[ $(sha256sum <"$1") == "$3  -" ]] || fail "$1 differs from what it must be"
-    echo "$1: $2 bytes, each as it must be"
+    wait_until has_sum "$@"
+    echo "$1: $(stat --format=%s "$1") bytes, each as it must be"
 }
 
 on_private_bus "$@"
 program=("$(realpath "$1")")
 drive=
-if [[ $1 == *.exe ]]; then # Wine has these files on a drive, and no accessibility bus
+if [[ $1 == *.exe ]]; then # Wine has these files on a drive
     program=(wine "${program[@]}")
     drive=Z:
 fi
 folder=$(realpath "${2:-$(mktemp --directory)}")
 open_screen 1280x800
-open_accessibility_bus
 cd "$folder"
 mkdir home
 printf '[Colors:%s]\nBackgroundNormal=35,38,41\nForegroundNormal=252,252,252\n' \
@@ -50,44 +41,20 @@ program_id=$!
 started+=("$program_id")
 in_window "Cirrava PAL"
 window=$(xdotool getactivewindow)
-see "${swatch[@]}" 000000
 see "${ground[@]}" f0f0f0
 picture 1-start
 
-click "${apply[@]}"
-in_window CirravaPal
-picture 2-no-range
-xdotool key Return
-in_window "Cirrava PAL"
-
-# By keys alone: back to the start box, cells 220 to 259, the red slider, Apply, the generate button.
-keys 8*shift+Tab ctrl+End 10*Page_Down Up Tab 4*Page_Up Down 3*Tab End
+# By keys alone: cells 220 to 259, the red slider, Apply, the generate button.
+xdotool key ctrl+End key --repeat 10 Page_Down key Up Tab key --repeat 4 Page_Up key Down Tab Tab Tab End
 see "${swatch[@]}" ff0000
-keys 4*Tab space
+xdotool key --repeat 4 Tab key space
 thermal_cell 220 see ff0000
-picture 3-thermal
-[[ -n $drive ]] || PYTHONPATH="$top/scripts" /usr/bin/python3 -B "$top/tests/accessible_test.py" ||
-    fail "the window does not read as it must"
-keys 5*Tab Return
+picture 2-thermal
+xdotool key --repeat 5 Tab key Return
 save_as "Create Thermal" thermal.bmp
-picture 4-write-prompt
+picture 3-write-prompt
 xdotool key Return
-expect_file thermal.bmp 1014 22b7ecd5c421775023428863f71be12aaa13bf6386a5b0ff56b3160607a01b68
-
-click "${sea_butt[@]}"
-sea_cell 0 click
-sea_cell 49 click 3
-click "${preset_12[@]}"
-click "${blue_left_arrow[@]}"
-see "${swatch[@]}" ffe0bf
-click "${apply[@]}"
-cp thermal.bmp older.bmp
-click "${sea_command[@]}"
-save_as "Create Sea Surface Palette" older.bmp
-picture 5-overwrite-prompt
-xdotool key Return
-in_window "Cirrava PAL"
-expect_file older.bmp 1014 eaecf0ee2b5f31db5ec845b3766458c27b46826bf23aadc15841bb6e3938e74c
+expect_file thermal.bmp 22b7ecd5c421775023428863f71be12aaa13bf6386a5b0ff56b3160607a01b68
 
 click "${hvc_butt[@]}"
 hvc_cell 20 click
@@ -97,23 +64,19 @@ click "${apply[@]}"
 see "${preview_of_cell_30[@]}" ff0000
 click "${darker[@]}"
 see "${preview_of_cell_30[@]}" fa0000
-picture 6-hvc
+picture 4-hvc
 click "${hvc_command[@]}"
 save_as "Create HVC Palette" hvc.bmp
 xdotool key Return
-expect_file hvc.bmp 76854 49d111629a81a3cf18cfb2c92bce854c664efc10bbd6f700ace3f719521ed7b3
+expect_file hvc.bmp 49d111629a81a3cf18cfb2c92bce854c664efc10bbd6f700ace3f719521ed7b3
 
 click "${load[@]}"
 choose_file "Read and Load palette" "$drive$folder/hvc.bmp"
 in_window "Cirrava PAL"
 hvc_cell 20 see f80000
-keys 2*ctrl+z
+xdotool key ctrl+z ctrl+z
 see "${preview_of_cell_30[@]}" ff0000
-keys ctrl+z
-hvc_cell 20 see 000000
-keys ctrl+shift+z ctrl+y
-hvc_cell 20 see fa0000
-picture 7-undone
+picture 5-undone
 
 click "${quit[@]}"
 wait "$program_id" || fail "the program ended with status $?"

@@ -8,22 +8,17 @@ namespace cirrava {
 using namespace std::string_literals;
 
 TEST(Registry, ValuesAreReadByTheirType) {
-    const struct {
-        std::optional<RegistryValue> value;
-        std::string text; // nothing where there is no value
-    } cases[]{
-        {{{string_value, "C:\\info.exe\0"s}}, "C:\\info.exe"},
-        {{{string_value, "C:\\info.exe"}}, "C:\\info.exe"}, // stored without its terminator
-        {{{number_value, "\x0A\x1B\xFF\x01"}}, "&h1FF1BA"},
-        {{{3, "bytes"}}, "as it was"},
-        {{}, ""},
-    };
-    for (const auto& [value, text] : cases) {
-        std::string read = "as it was";
+    const auto text_of = [](const std::optional<RegistryValue>& value) {
+        std::string text = "as it was";
         const auto registry = [&value](auto...) { return value; };
-        EXPECT_EQ(GetKeyValue(registry, local_machine, "key", "name", read), !text.empty());
-        EXPECT_EQ(read, text);
-    }
+        EXPECT_EQ(GetKeyValue(registry, local_machine, "key", "name", text), value.has_value());
+        return text;
+    };
+    EXPECT_EQ(text_of({{string_value, "C:\\info.exe\0"s}}), "C:\\info.exe");
+    EXPECT_EQ(text_of({{string_value, "no terminator"}}), "no terminator");
+    EXPECT_EQ(text_of({{number_value, "\x0A\x1B\xFF\x01"}}), "&h1FF1BA");
+    EXPECT_EQ(text_of({{3, "bytes"}}), "as it was");
+    EXPECT_EQ(text_of({}), "");
 }
 
 TEST(Registry, NamesTheProgramOrTheFolderThatHoldsIt) {

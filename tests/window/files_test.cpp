@@ -18,6 +18,34 @@ protected:
             .replace(folder.path(), "HERE")
             .replace(QCoreApplication::applicationDirPath(), "PROGRAM");
     }
+
+    // On the chosen scale: no dialog answered, no file wanted, one written and read back over
+    // black. `colour` is what cells come back in that were white.
+    void write_and_read(const char* choose, const char* generate, CellArray& cells,
+                        const QString& dialog, int size, Colour colour) {
+        const QFileInfo file(folder.filePath("a.bmp"));
+        const QString question = dialog + ".bmp of *.bmp in PROGRAM; ";
+        const QString verb = file.exists() ? "OVERWRITE" : "Write";
+        const qint64 size_before = file.size();
+        press(choose);
+        EXPECT_EQ(heard_of(generate, std::nullopt), question + "Operation Cancelled");
+        EXPECT_EQ(heard_of(generate, file.filePath(), false),
+                  question + "Ready to create: " + verb + " HERE/a.bmp?");
+        EXPECT_EQ(QFileInfo(file.filePath()).size(), size_before);
+        EXPECT_TRUE(find<PictureBox>("Picture1").image().isNull());
+        select(cells, 7, 9);
+        apply(0);
+        heard_of(generate, file.filePath());
+        EXPECT_EQ(QFileInfo(file.filePath()).size(), size);
+        apply(5);
+        press("Sea_butt");
+        EXPECT_EQ(heard_of("Command5", file.filePath()),
+                  "Read and Load palette: a.bmp of *.bmp in HERE");
+        EXPECT_EQ(cells.colour(8), colour);
+        EXPECT_EQ(caption("Label5"), "Sea");
+        QTest::keySequence(&window, QKeySequence::Undo);
+        EXPECT_EQ(cells.colour(8), 0);
+    }
 };
 
 } // namespace
@@ -25,68 +53,33 @@ protected:
 TEST_F(Files, AreAskedForWrittenAndReadBack) {
     EXPECT_EQ(heard_of("Command5", std::nullopt),
               "Read and Load palette:  of *.bmp in PROGRAM; Operation Cancelled");
-    const struct {
-        const char *choose, *generate;
-        CellArray& cells;
-        QString name, title;
-        int size;
-        Colour read; // back from white
-    } scales[]{
-        {"thermal_butt", "thermal_command", thermal(), "thermal", "Create Thermal", 1014, 0xFFFFFF},
-        {"Sea_butt", "sea_command", sea(), "sea", "Create Sea Surface Palette", 806, 0xFFFFFF},
-        {"hvc_butt", "hvc_command", hvc(), "hvc", "Create HVC Palette", 76854, 0xFDFDFD},
-    };
-    for (const auto& [choose, generate, cells, name, title, size, read] : scales) {
-        const QString path = folder.filePath(name + ".bmp");
-        const QString question = title + ": " + name + ".bmp of *.bmp in PROGRAM; ";
-        press(choose);
-        EXPECT_EQ(heard_of(generate, std::nullopt), question + "Operation Cancelled");
-        const QString prompt = question + "Ready to create: %1 HERE/" + name + ".bmp?";
-        EXPECT_EQ(heard_of(generate, path, false), prompt.arg("Write"));
-        EXPECT_FALSE(QFile::exists(path));
-        EXPECT_TRUE(find<PictureBox>("Picture1").image().isNull());
-        select(cells, 7, 9);
-        apply(0);
-        EXPECT_EQ(heard_of(generate, path), prompt.arg("Write"));
-        EXPECT_EQ(QFile(path).size(), size);
-        apply(5);
-        EXPECT_EQ(heard_of(generate, path, false), prompt.arg("OVERWRITE"));
-        press("Sea_butt");
-        EXPECT_EQ(heard_of("Command5", path),
-                  "Read and Load palette: " + name + ".bmp of *.bmp in HERE");
-        EXPECT_EQ(cells.colour(8), read);
-        EXPECT_EQ(caption("Label5"), "Sea");
-        QTest::keySequence(&window, QKeySequence::Undo);
-        EXPECT_EQ(cells.colour(8), 0);
-    }
+    write_and_read("thermal_butt", "thermal_command", thermal(), "Create Thermal: thermal", 1014,
+                   0xFFFFFF);
+    write_and_read("Sea_butt", "sea_command", sea(), "Create Sea Surface Palette: sea",
+                   1014, // over the Thermal file, whose end stays
+                   0xFFFFFF);
+    write_and_read("hvc_butt", "hvc_command", hvc(), "Create HVC Palette: hvc", 76854, 0xFDFDFD);
     const QImage& picture = find<PictureBox>("Picture1").image();
     EXPECT_EQ(picture.pixel(8, 127), qRgb(0, 0, 0)); // since the undo
 }
 
 TEST_F(Files, DamagedOnesAreToldAndLoadAsFarAsTheyGo) {
-    const QString not_ours = "; Not a Cirrava PAL file... It's probably corrupted";
-    const Colour red = RGB(255, 0, 0), grey = RGB(88, 88, 88);
-    const struct {
-        const char* name;
-        QString told;
-        Colour thermal_99, hvc_99; // afterwards
-    } files[]{
-        {"text", "; Selected file is not a color palette", 0, 0},
-        {"two-bytes", not_ours, 0, 0},
-        {"other-size", not_ours, 0, 0},
-        {"thermal-of-100-cells", "", red, 0},
-        {"hvc-too-short", "; Error # 62 Cannot Read File", red, 0},
-        {"hvc-just-long-enough", "", red, grey},
-        {"hvc-unknown-compression", "; Error # 481 Cannot Read File", red, grey},
-    };
-    for (const auto& [name, told, thermal_99, hvc_99] : files) {
-        SCOPED_TRACE(name);
+    // What is told, and cell 99 of Thermal and HVC afterwards.
+    const auto load = [this](const char* name) {
         const QString heard = heard_of("Command5", QString(CORPUS "/%1.bmp").arg(name));
-        EXPECT_EQ(heard.section("; ", 1), told.mid(2));
-        EXPECT_EQ(thermal().colour(99), thermal_99);
-        EXPECT_EQ(thermal().colour(100), 0);
-        EXPECT_EQ(hvc().colour(99), hvc_99);
-    }
+        return heard.section("; ", 1) + QString("|%1|%2")
+                                            .arg(thermal().colour(99), 6, 16, QChar('0'))
+                                            .arg(hvc().colour(99), 6, 16, QChar('0'));
+    };
+    const QString not_ours = "Not a Cirrava PAL file... It's probably corrupted";
+    EXPECT_EQ(load("text"), "Selected file is not a color palette|000000|000000");
+    EXPECT_EQ(load("two-bytes"), not_ours + "|000000|000000");
+    EXPECT_EQ(load("other-size"), not_ours + "|000000|000000");
+    EXPECT_EQ(load("thermal-of-100-cells"), "|0000ff|000000");
+    EXPECT_EQ(thermal().colour(100), 0);
+    EXPECT_EQ(load("hvc-too-short"), "Error # 62 Cannot Read File|0000ff|000000");
+    EXPECT_EQ(load("hvc-just-long-enough"), "|0000ff|585858");
+    EXPECT_EQ(load("hvc-unknown-compression"), "Error # 481 Cannot Read File|0000ff|585858");
     const QImage& picture = find<PictureBox>("Picture1").image();
     EXPECT_EQ(picture.pixel(50, 255 - 126), qRgb(88, 88, 88));
     EXPECT_EQ(picture.pixel(50, 255 - 127), qRgb(0, 0, 0)); // the rows that the file lacks

@@ -53,7 +53,6 @@ TEST_F(OtherWindows, HelpOpensAtTheTopAndCannotBeChanged) {
     };
     in_window_of("Command4", "Cirrava PAL How To", read);
     in_window_of("hvc_help", "About HVC Palette", read);
-    in_window_of("Command4", "Cirrava PAL How To", read);
 }
 
 TEST_F(OtherWindows, AboutClosesByEscAndEnter) {

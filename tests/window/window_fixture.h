@@ -69,10 +69,8 @@ protected:
     WindowTest() {
         QDir::setCurrent(folder.path());
         window.show();
-        window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
-    ~WindowTest() override { QDir::setCurrent(QDir::tempPath()); }
 
     template <class Control> Control& find(const QString& name) {
         return find_in<Control>(window, name);
