@@ -4,7 +4,7 @@ set -euo pipefail
 program=$(realpath "$1")
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$top/scripts/screen.sh"
-. "$top/scripts/places.sh"
+. "$top/scripts/points.sh"
 
 # palette WIDTH HEIGHT COLOURS...: a smooth run through the colours, coldest first.
 palette() {
@@ -57,11 +57,11 @@ leave() {
 # take NAME: the window, and what lies over it, with the pointer away.
 take() {
     point_at 9000 6900
-    local place
-    place=$(xwininfo -id "$window" | awk '/Absolute upper-left X/ { x = $4 }
+    local frame
+    frame=$(xwininfo -id "$window" | awk '/Absolute upper-left X/ { x = $4 }
         /Absolute upper-left Y/ { y = $4 } /Width/ { w = $2 } /Height/ { h = $2 }
         END { print w "x" h "+" x "+" y }')
-    import -window root -crop "$place" +repage -strip "$top/docs/$1.png"
+    import -window root -crop "$frame" +repage -strip "$top/docs/$1.png"
 }
 
 # Its name is seen on a picture. A link, since what a failed run has left must not be in the way, and

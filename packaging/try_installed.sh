@@ -5,7 +5,7 @@ set -euo pipefail
 folder=$(realpath "$1")
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$top/scripts/screen.sh"
-. "$top/scripts/places.sh"
+. "$top/scripts/points.sh"
 
 value_of() { sed -n "s/^$1=//p" /usr/share/applications/org.cirrava.CirravaPal.desktop; }
 

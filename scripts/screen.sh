@@ -69,7 +69,7 @@ in_window() { wait_until is_active "$1"; }
 
 scale_factor=1 # of Qt, as in QT_SCALE_FACTOR
 
-# The place of a point of the main window, given in twips, on a screen of 96 dots per inch.
+# pixels TWIPS: on a screen of 96 dots per inch.
 pixels() { echo $((scale_factor * $1 / 15)); }
 
 point_at() { xdotool mousemove --window "$window" "$(pixels "$1")" "$(pixels "$2")"; }

@@ -6,7 +6,7 @@
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$top/scripts/screen.sh"
-. "$top/scripts/places.sh"
+. "$top/scripts/points.sh"
 
 # save_as DIALOG-TITLE FILE: answers the file dialog, up to the prompt.
 save_as() {

@@ -57,7 +57,7 @@ std::optional<QString> ask_for_file(QWidget& parent, const FileQuestion& questio
     return dialog.selectedFiles().value(0);
 }
 
-// `text` with marks that do not show in each word wider than `width` pixels, such as a long path,
+// `text` with breaks that do not show in each word wider than `width` pixels, such as a long path,
 // so that it can be broken anywhere.
 QString breakable(const QString& text, const QFontMetrics& metrics, int width) {
     static const QRegularExpression letter("(\\X)");
@@ -88,7 +88,7 @@ protected:
     }
 
 private:
-    // Who copies the text or hears it gets it without the marks.
+    // Who copies the text or hears it gets it without the breaks.
     void show_broken_where_long() {
         setText(breakable(text_, fontMetrics(), screen()->availableGeometry().width() / 2));
         if (text() == text_)

@@ -1,6 +1,6 @@
-# The places of the main window's controls, in twips. To be sourced.
+# Points of the main window's controls, in twips. To be sourced.
 
-# SCALE_cell NUMBER ACTION [ARGUMENT...]: hands the place of that cell to the action, before its arguments,
+# SCALE_cell NUMBER ACTION [ARGUMENT...]: hands the middle of that cell to the action, before its arguments,
 # as in: thermal_cell 259 click 3
 thermal_cell() { cell 2040 "$@"; }
 sea_cell() { cell 4440 "$@"; }
