@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
 #include <QRegularExpression>
@@ -33,6 +34,16 @@ QList<QUrl> side_bar_folders() {
     return urls;
 }
 
+// Qt adds a path that is typed to what is selected in the list, a folder on the way to it among
+// that, and may then take the folder for the answer.
+void let_typing_replace_selection(const QFileDialog& dialog) {
+    const auto* const edit = dialog.findChild<QLineEdit*>();
+    const auto* const files = dialog.findChild<QTreeView*>();
+    if (edit != nullptr && files != nullptr)
+        QObject::connect(edit, &QLineEdit::textEdited, files->selectionModel(),
+                         &QItemSelectionModel::clearSelection);
+}
+
 // Qt cuts names in the side bar and in the columns of the list.
 void make_room_for_names(const QFileDialog& dialog) {
     if (auto* const files = dialog.findChild<QTreeView*>())
@@ -51,6 +62,7 @@ std::optional<QString> ask_for_file(QWidget& parent, const FileQuestion& questio
     dialog.setAcceptMode(mode);
     dialog.setSidebarUrls(side_bar_folders());
     dialog.selectFile(question.name);
+    let_typing_replace_selection(dialog);
     make_room_for_names(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
