@@ -4,8 +4,7 @@
 #include "palette_files/palette_image.h"
 #include "platform/binary_file.h"
 #include "ui/cirrava.h"
-#include "ui/look.h"
-#include "ui/set_up_process.h"
+#include "ui/set_up.h"
 
 #include <QApplication>
 #include <QDir>
@@ -134,7 +133,7 @@ void measure_window() {
 int main(int argc, char* argv[]) {
     set_up_process();
     QApplication application(argc, argv);
-    set_program_look(application);
+    set_up_application(application);
     const QTemporaryDir folder; // for the files that are written
     QDir::setCurrent(folder.path());
     measure_palette();

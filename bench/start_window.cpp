@@ -1,8 +1,7 @@
 // Opens a window, writes a byte when its first frame is painted, and ends. Compiled twice: with the
 // program's window and, as a measure for it, with one of the same size that has a line of text.
 #include "ui/cirrava.h"
-#include "ui/look.h"
-#include "ui/set_up_process.h"
+#include "ui/set_up.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -31,7 +30,7 @@ public:
 class LineWindow : public QWidget {
 public:
     LineWindow() {
-        set_program_look(*qApp);
+        set_up_application(*qApp);
         setFixedSize(961, 627);
     }
 
@@ -42,7 +41,7 @@ protected:
 };
 
 Dialogs dressed() {
-    set_program_look(*qApp); // before the first control is made
+    set_up_application(*qApp); // before the first control is made
     return {};
 }
 

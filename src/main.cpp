@@ -1,6 +1,5 @@
 #include "ui/cirrava.h"
-#include "ui/look.h"
-#include "ui/set_up_process.h"
+#include "ui/set_up.h"
 
 #include <QApplication>
 
@@ -10,7 +9,7 @@ int main(int, char* argv[]) {
     // The desktop finds the program's name and icon by it.
     QApplication::setDesktopFileName("org.cirrava.CirravaPal");
     QApplication application(only_the_name, argv);
-    cirrava::set_program_look(application);
+    cirrava::set_up_application(application);
     cirrava::Cirrava window;
     window.show();
     return QApplication::exec();

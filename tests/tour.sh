@@ -45,7 +45,7 @@ see "${ground[@]}" f0f0f0
 picture 1-start
 
 # By keys alone: cells 220 to 259, the red slider, Apply, the generate button.
-xdotool key ctrl+End key --repeat 10 Page_Down key Up Tab key --repeat 4 Page_Up key Down Tab Tab Tab End
+xdotool key ctrl+End key --repeat 10 Page_Down key Up Tab key --repeat 5 Page_Up key Down Tab Tab Tab End
 see "${swatch[@]}" ff0000
 xdotool key --repeat 4 Tab key space
 thermal_cell 220 see ff0000

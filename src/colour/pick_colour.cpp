@@ -7,7 +7,9 @@ namespace cirrava {
 void pick_colour(CommonDialog& cdlopen, const Dialogs& dialogs, CurrentColour& current_colour) {
     try {
         cdlopen.CancelError = true;
-        cdlopen.ShowColor();
+        // From black, the dialog's spectrum shows no colour.
+        const bool black = current_colour.colour() == RGB(0, 0, 0);
+        cdlopen.ShowColor(black ? Qt::white : to_qt(current_colour.colour()));
         current_colour.take(from_qt(cdlopen.Color));
     } catch (const Failure& failure) {
         if (failure.number != FailureNumber::cancelled)

@@ -23,7 +23,12 @@ public:
     QObject* object() const override { return nullptr; }
     QWindow* window() const override { return cells_->window()->windowHandle(); }
     QAccessible::Role role() const override { return QAccessible::ListItem; }
-    QAccessible::State state() const override { return {}; }
+    QAccessible::State state() const override {
+        QAccessible::State state;
+        state.selectable = true;
+        state.selected = cells_->is_selected(cell_);
+        return state;
+    }
 
     QString text(QAccessible::Text which) const override {
         switch (which) {

@@ -20,6 +20,8 @@ constexpr int pitch = 120;
 constexpr int row_pitch = 480;
 constexpr int cell_size = 255;
 constexpr int strip_inset = 15;
+constexpr int underline_top = 255; // from the top of the cell; above the temperatures' letters
+constexpr int underline_height = 30;
 
 constexpr int cells_per_row = 100;
 
@@ -29,15 +31,27 @@ CellArray::CellArray(ScaleKind kind) : kind_(kind), colours_(cell_count(kind), R
     QAccessible::installFactory(accessible_cells); // once, however often it is asked for
 }
 
-void CellArray::set_colour(int cell, Colour colour) {
-    colours_[cell] = colour;
-    update(strip(cell));
-}
-
 void CellArray::set_colours(std::span<const Colour> colours) {
     const auto count = std::min<std::ptrdiff_t>(std::ssize(colours), colours_.size());
+    if (std::equal(colours.begin(), colours.begin() + count, colours_.cbegin()))
+        return;
     std::copy_n(colours.begin(), count, colours_.begin());
     update();
+    tell_screen_readers(QAccessible::DescriptionChanged);
+}
+
+void CellArray::underline(const QList<Underline>& runs) {
+    if (runs == underlines_)
+        return;
+    underlines_ = runs;
+    update();
+    tell_screen_readers(QAccessible::SelectionWithin);
+}
+
+bool CellArray::is_selected(int cell) const {
+    return std::any_of(underlines_.begin(), underlines_.end(), [cell](const Underline& run) {
+        return !run.dotted && run.first <= cell && cell <= run.last;
+    });
 }
 
 void CellArray::lay_out(int top, int dpi) {
@@ -46,24 +60,28 @@ void CellArray::lay_out(int top, int dpi) {
     const int count = cell_count(kind_);
     const int rows = (count - 1) / cells_per_row;
     const int columns = std::min(count, cells_per_row) - 1;
-    setGeometry(to_pixels(
-        {left_margin, top, columns * pitch + cell_size, rows * row_pitch + cell_size}, dpi));
+    setGeometry(to_pixels({left_margin, top, columns * pitch + cell_size,
+                           rows * row_pitch + underline_top + underline_height},
+                          dpi));
 }
 
 QRect CellArray::cell_box(int cell) const {
-    return cell_pixels(cell, 0, cell_size, cell_size);
+    return cell_pixels(cell, {0, 0, cell_size, cell_size});
 }
 
 QRect CellArray::strip(int cell) const {
-    const bool last_of_row = (cell + 1) % cells_per_row == 0 || cell + 1 == cell_count(kind_);
-    return cell_pixels(cell, strip_inset, last_of_row ? cell_size : pitch,
-                       cell_size - 2 * strip_inset);
+    return cell_pixels(cell, {0, strip_inset, visible_width(cell), cell_size - 2 * strip_inset});
 }
 
-QRect CellArray::cell_pixels(int cell, int inset_top, int width, int height) const {
-    const TwipRect rect{left_margin + pitch * (cell % cells_per_row),
-                        top_ + row_pitch * (cell / cells_per_row) + inset_top, width, height};
-    return to_pixels(rect, dpi_).translated(-pos());
+int CellArray::visible_width(int cell) const {
+    const bool last_of_row = (cell + 1) % cells_per_row == 0 || cell + 1 == cell_count(kind_);
+    return last_of_row ? cell_size : pitch;
+}
+
+QRect CellArray::cell_pixels(int cell, const TwipRect& part) const {
+    const int left = left_margin + pitch * (cell % cells_per_row) + part.left;
+    const int top = top_ + row_pitch * (cell / cells_per_row) + part.top;
+    return to_pixels({left, top, part.width, part.height}, dpi_).translated(-pos());
 }
 
 int CellArray::cell_at(QPoint point) const {
@@ -92,6 +110,23 @@ void CellArray::paintEvent(QPaintEvent* event) {
         if (event->region().intersects(box))
             painter.fillRect(box, to_qt(colour(cell)));
     }
+    for (const Underline& run : underlines_)
+        paint_underline(painter, run);
+}
+
+void CellArray::paint_underline(QPainter& painter, const Underline& run) const {
+    for (int cell = run.first; cell <= run.last; ++cell) {
+        const int width = visible_width(cell);
+        const int dash = run.dotted ? underline_height : width;
+        for (int left = 0; left < width; left += 2 * dash)
+            painter.fillRect(cell_pixels(cell, {left, underline_top, dash, underline_height}),
+                             palette().color(QPalette::Highlight));
+    }
+}
+
+void CellArray::tell_screen_readers(QAccessible::Event what) {
+    QAccessibleEvent event(this, what);
+    QAccessible::updateAccessibility(&event);
 }
 
 void CellArray::mousePressEvent(QMouseEvent* event) {

@@ -2,18 +2,31 @@
 
 #include "scale_editor/colour.h"
 #include "scale_editor/range.h"
+#include "widgets/twips.h"
 
+#include <QAccessible>
 #include <QWidget>
 #include <optional>
 #include <span>
 
 namespace cirrava {
 
+// Cells `first` to `last` of a scale, with a full line under those that are marked, and a dotted
+// one under those that only the brightness slider would change.
+struct Underline {
+    int first = 0;
+    int last = 0;
+    bool dotted = false;
+
+    bool operator==(const Underline&) const = default;
+};
+
 // All cells of one scale: rows of 100 cells that overlap like tiles, so that each shows a strip 120
 // twips wide and the last of a row its whole 255. The colours of the cells are the only
 // store of the palette. Every cell starts black.
 //
-// The widget covers the labels between its rows; there it is transparent and reacts to nothing.
+// The widget covers the labels between its rows; there it is transparent, but for the line under
+// marked cells, and reacts to nothing.
 class CellArray : public QWidget {
     Q_OBJECT
 public:
@@ -23,11 +36,12 @@ public:
     const QList<Colour>& colours() const { return colours_; }
     Colour colour(int cell) const { return colours_.at(cell); }
 
-    // `cell` must be one of the scale's. Repaints it.
-    void set_colour(int cell, Colour colour);
-
     // Sets the first cells, at most as many as the scale has.
     void set_colours(std::span<const Colour> colours);
+
+    // Draws a line under the cells of each run, in place of the lines there were.
+    void underline(const QList<Underline>& runs);
+    bool is_selected(int cell) const; // has a full line
 
     // Puts the scale into its parent window, its first row `top` twips from the top, for `dpi`
     // logical dots per inch.
@@ -67,10 +81,14 @@ private:
     // The cell under the pointer, of any scale of the window.
     std::optional<Hit> hit(const QMouseEvent& event) const;
 
-    QRect cell_pixels(int cell, int inset_top, int width, int height) const;
+    void tell_screen_readers(QAccessible::Event what);
+    void paint_underline(QPainter& painter, const Underline& run) const;
+    int visible_width(int cell) const;                       // in twips
+    QRect cell_pixels(int cell, const TwipRect& part) const; // `part` from the cell's top left
 
     ScaleKind kind_;
     QList<Colour> colours_;
+    QList<Underline> underlines_;
     int top_ = 0;
     int dpi_ = 96;
     Qt::MouseButtons pressed_on_cells_; // and not yet released

@@ -18,7 +18,9 @@ struct Step {
 
 constexpr std::array steps{
     Step{Qt::Key_Up, Qt::NoModifier, 1},
+    Step{Qt::Key_Right, Qt::NoModifier, 1},
     Step{Qt::Key_Down, Qt::NoModifier, -1},
+    Step{Qt::Key_Left, Qt::NoModifier, -1},
     Step{Qt::Key_PageUp, Qt::NoModifier, page},
     Step{Qt::Key_PageDown, Qt::NoModifier, -page},
     Step{Qt::Key_End, Qt::ControlModifier, beyond},

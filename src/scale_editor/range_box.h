@@ -5,7 +5,7 @@
 namespace cirrava {
 
 // A box that shows one end of the range. It is not typed into but takes keys as a spin box does:
-// up, down, page up, page down, and Ctrl with Home or End. Enter asks for the colour of its cell.
+// the arrows, page up, page down, and Ctrl with Home or End. Enter asks for the colour of its cell.
 class RangeBox : public QLineEdit {
     Q_OBJECT
 signals:

@@ -4,6 +4,7 @@
 #include "scale_editor/qt_values.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace cirrava {
 
@@ -22,6 +23,7 @@ void RangeSelection::choose_scale(ScaleKind kind) {
         return;
     working_scale_.set(kind);
     blank_boxes();
+    underline_cells();
 }
 
 void RangeSelection::mark(ScaleKind kind, int cell, RangeEnd end) {
@@ -35,15 +37,18 @@ void RangeSelection::mark(ScaleKind kind, int cell, RangeEnd end) {
     if (state_.last_scale != kind)
         other_box.setText(blank);
     state_.last_scale = kind;
+    underline_cells();
 }
 
 void RangeSelection::step(RangeEnd end, int cells) {
     const ScaleKind kind = working_scale_.kind();
-    const auto start_cell = cell_of(RangeEnd::start);
-    const auto end_cell = cell_of(RangeEnd::end);
-    const auto other_cell = start_cell ? start_cell : end_cell;
-    const int from = cell_of(end).value_or(other_cell.value_or(0));
-    mark(kind, std::clamp(from + cells, 0, cell_count(kind) - 1), end);
+    const auto other_cell =
+        cell_of(end == RangeEnd::start ? RangeEnd::end : RangeEnd::start).value_or(0);
+    const int last = cell_count(kind) - 1;
+    if (cell_of(end) || std::abs(cells) > last)
+        mark(kind, std::clamp(cell_of(end).value_or(0) + cells, 0, last), end);
+    else
+        mark(kind, other_cell, end);
 }
 
 std::optional<int> RangeSelection::cell_of(RangeEnd end) const {
@@ -57,6 +62,7 @@ void RangeSelection::reset() {
     blank_boxes();
     state_.range_start = 0;
     state_.range_end = cell_count(ScaleKind::hvc) - 1;
+    underline_cells();
 }
 
 std::optional<Range> RangeSelection::range() const {
@@ -70,6 +76,27 @@ std::optional<Range> RangeSelection::range() const {
 void RangeSelection::blank_boxes() {
     boxes_.Text1.setText(blank);
     boxes_.Text2.setText(blank);
+}
+
+void RangeSelection::underline_cells() {
+    for (const ScaleKind kind : all_scales)
+        scales_.cells(kind).underline(kind == working_scale_.kind() ? underlines()
+                                                                    : QList<Underline>());
+}
+
+// Of the working scale.
+QList<Underline> RangeSelection::underlines() const {
+    if (const auto marked = range())
+        return {{marked->first, marked->last}};
+    QList<Underline> runs;
+    for (const auto cell : {cell_of(RangeEnd::start), cell_of(RangeEnd::end)})
+        if (cell)
+            runs << Underline{*cell, *cell};
+    const bool brightness_acts = runs.isEmpty() && working_scale_.kind() == ScaleKind::hvc;
+    const int last = std::min(state_.range_end, cell_count(ScaleKind::hvc) - 1);
+    if (brightness_acts && state_.range_start <= last)
+        runs << Underline{state_.range_start, last, true};
+    return runs;
 }
 
 void show_fahrenheit(const QLineEdit& celsius, QLineEdit& fahrenheit) {

@@ -6,11 +6,13 @@
 
 namespace cirrava {
 
-// Marks the range of cells that a colour will be applied to, and shows its ends in the range boxes.
+// Marks the range of cells that a colour will be applied to, and shows its ends in the range boxes
+// and by a line under the cells.
 class RangeSelection {
 public:
-    RangeSelection(EditorState& state, WorkingScale& working_scale, RangeBoxes& boxes)
-        : state_(state), working_scale_(working_scale), boxes_(boxes) {}
+    RangeSelection(EditorState& state, WorkingScale& working_scale, ScaleControls& scales,
+                   RangeBoxes& boxes)
+        : state_(state), working_scale_(working_scale), scales_(scales), boxes_(boxes) {}
 
     // Makes `kind` the working scale and blanks the boxes, unless it is the working scale already.
     void choose_scale(ScaleKind kind);
@@ -20,7 +22,8 @@ public:
     void mark(ScaleKind kind, int cell, RangeEnd end);
 
     // Moves that end by so many cells of the working scale and stops at the ends of the scale. An
-    // end that is blank starts from the other end's cell, or else from the first cell.
+    // end that is blank goes to the other end's cell, or else to the first cell; from there a step
+    // beyond every scale goes to the scale's end all the same.
     void step(RangeEnd end, int cells);
 
     // The cell of the working scale that the box of that end shows, if it shows one.
@@ -34,9 +37,12 @@ public:
 
 private:
     void blank_boxes();
+    void underline_cells();
+    QList<Underline> underlines() const;
 
     EditorState& state_;
     WorkingScale& working_scale_;
+    ScaleControls& scales_;
     RangeBoxes& boxes_;
 };
 

@@ -1,8 +1,7 @@
 #include "ui/about_window.h"
 
 #include "platform/system_info.h"
-#include "ui/look.h"
-#include "ui/placing.h"
+#include "ui/placer.h"
 #include "widgets/button.h"
 #include "widgets/dialogs.h"
 #include "widgets/line.h"
@@ -34,9 +33,9 @@ constexpr char disclaimer[] =
 
 class AboutWindow : public QDialog {
 public:
-    explicit AboutWindow(QWidget& parent) : QDialog(&parent) {
+    explicit AboutWindow(QWidget& parent)
+        : QDialog(&parent), placer_(*this, "About " + program_title, {5685, 5190}) {
         setObjectName("frmAbout");
-        make_fixed_window(*this, "About " + program_title, {5685, 5190});
         setWindowIcon(parent.windowIcon());
         move_to_position();
         place_picture();
@@ -48,14 +47,14 @@ public:
 
 private:
     void move_to_position() {
-        const TwipRect on_screen{2340, 1935, 5685, 5190};
-        setGeometry(to_pixels(on_screen, logicalDpiX())); // of the client area, without the frame
+        const QPoint top_left = to_pixels({2340, 1935}, logicalDpiX()).topLeft();
+        setGeometry(QRect(top_left, size())); // of the client area, without the frame
     }
 
     void place_picture() {
-        place(picIcon_, *this, "picIcon", {0, 0, 1140, 1500});
+        placer_.place(picIcon_, "picIcon", {0, 0, 1140, 1500});
         give_sunken_border(picIcon_);
-        picIcon_.setPixmap(program_picture(devicePixelRatioF()));
+        picIcon_.setPixmap(program_picture(devicePixelRatioF(), placer_.shrink()));
     }
 
     void place_texts() {
@@ -72,8 +71,8 @@ private:
 
     void place_text(QLabel& label, const QString& name, const TwipRect& rect, const QString& text,
                     const Look& look) {
-        place(label, *this, name, rect);
-        give_look(label, look);
+        placer_.place(label, name, rect);
+        placer_.give_look(label, look);
         label.setTextFormat(Qt::PlainText);
         label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
         label.setWordWrap(true);
@@ -82,18 +81,18 @@ private:
 
     // Together they look etched into the window.
     void place_lines() {
-        place(Line1_[1], *this, "Line1(1)", {90, 3120, 5564, 15});
-        give_look(Line1_[1], {.text = qRgb(128, 128, 128)});
-        place(Line1_[0], *this, "Line1(0)", {120, 3240, 5549, 30});
-        give_look(Line1_[0], {.text = qRgb(255, 255, 255)});
+        placer_.place(Line1_[1], "Line1(1)", {90, 3120, 5564, 15});
+        placer_.give_look(Line1_[1], {.text = qRgb(128, 128, 128)});
+        placer_.place(Line1_[0], "Line1(0)", {120, 3240, 5549, 30});
+        placer_.give_look(Line1_[0], {.text = qRgb(255, 255, 255)});
     }
 
     void place_buttons() {
-        place(cmdOK_, *this, "cmdOK", {4320, 4560, 1260, 345});
+        placer_.place(cmdOK_, "cmdOK", {4320, 4560, 1260, 345});
         cmdOK_.setText("Exit ");
         cmdOK_.setDefault(true);
         connect(&cmdOK_, &Button::clicked, this, &QDialog::accept);
-        place(cmdSysInfo_, *this, "cmdSysInfo", {4320, 3600, 1245, 705});
+        placer_.place(cmdSysInfo_, "cmdSysInfo", {4320, 3600, 1245, 705});
         cmdSysInfo_.setText("System Info");
         connect(&cmdSysInfo_, &Button::clicked, this, [this] { start_system_info(); });
         setTabOrder(&cmdOK_, &cmdSysInfo_);
@@ -110,6 +109,7 @@ private:
         StartSysInfo({find_system_info_program, start, tell_unavailable});
     }
 
+    const Placer placer_;
     QLabel picIcon_, lblTitle_, lblVersion_, Label1_, lblDescription_, lblDisclaimer_;
     std::array<Line, 2> Line1_;
     Button cmdOK_, cmdSysInfo_;

@@ -7,13 +7,25 @@
 #include "scale_editor/qt_values.h"
 #include "ui/about_window.h"
 #include "ui/cirrava_layout.h"
+#include "ui/cirrava_tables.h"
 #include "ui/help_windows.h"
-#include "ui/placing.h"
+#include "ui/placer.h"
 
+#include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QShortcut>
 
 namespace cirrava {
+
+namespace {
+
+// A window for screen readers, as which Qt does not know a widget that is one.
+QAccessibleInterface* accessible_window(const QString&, QObject* object) {
+    auto* const window = qobject_cast<Cirrava*>(object);
+    return window != nullptr ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
+}
+
+} // namespace
 
 Cirrava::Cirrava(Dialogs dialogs) : dialogs_(std::move(dialogs)) {
     lay_out(controls_, *this);
@@ -24,6 +36,8 @@ Cirrava::Cirrava(Dialogs dialogs) : dialogs_(std::move(dialogs)) {
     connect_files();
     connect_windows();
     connect_history();
+    connect_keys();
+    QAccessible::installFactory(accessible_window);
 }
 
 void Cirrava::start_up() {
@@ -105,6 +119,18 @@ void Cirrava::connect_history() {
     for (const auto keys : {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})
         connect(new QShortcut(keys, this), &QShortcut::activated, this, // desktops differ
                 [this] { history_.redo(); });
+}
+
+void Cirrava::connect_keys() {
+    for (const auto& [keys, buttons] : tables::keys) {
+        auto* const shortcut = new QShortcut(keys, this);
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, [this, &buttons = buttons] {
+            for (Button CirravaControls::*const button : buttons)
+                if (button != nullptr)
+                    (controls_.*button).click(); // a disabled one does nothing
+        });
+    }
 }
 
 void Cirrava::copy_colour(RangeEnd end) {

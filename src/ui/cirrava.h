@@ -23,6 +23,7 @@ private:
     void connect_files();
     void connect_windows();
     void connect_history();
+    void connect_keys();
     void copy_colour(RangeEnd end);
     void apply();
 
@@ -32,7 +33,7 @@ private:
     CommonDialog cdlopen_{dialogs_};
 
     WorkingScale working_scale_{controls_};
-    RangeSelection range_selection_{state_, working_scale_, controls_};
+    RangeSelection range_selection_{state_, working_scale_, controls_, controls_};
     CurrentColour current_colour_{controls_};
     HvcPalette hvc_palette_{cdlopen_, dialogs_, state_, controls_, controls_.Picture1};
     PaletteHistory history_{controls_, [this] { hvc_palette_.refresh_preview_silently(); }};

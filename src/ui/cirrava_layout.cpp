@@ -2,7 +2,7 @@
 
 #include "scale_editor/qt_values.h"
 #include "ui/cirrava_tables.h"
-#include "ui/placing.h"
+#include "ui/placer.h"
 #include "widgets/spoken_colour.h"
 
 #include <algorithm>
@@ -13,13 +13,14 @@ namespace {
 
 class Builder {
 public:
-    Builder(CirravaControls& controls, QWidget& window) : controls_(controls), window_(window) {}
+    Builder(CirravaControls& controls, const Placer& placer)
+        : controls_(controls), placer_(placer) {}
 
     template <class Control, std::size_t count>
     void place(const tables::Row<Control> (&rows)[count]) {
         for (const auto& row : rows) {
             Control& control = controls_.*row.control;
-            place(control, QString::fromLatin1(row.name), row.rect);
+            placer_.place(control, QString::fromLatin1(row.name), row.rect);
             finish(control, QString::fromLatin1(row.caption), row.look);
         }
     }
@@ -30,7 +31,7 @@ public:
                      const TwipRect (&rects)[count]) {
         for (std::size_t i = 0; i < count; ++i) {
             const int cell = std::min(20 * static_cast<int>(i), cell_count(kind) - 1);
-            place(ticks[i], member_name(name, i), rects[i]);
+            placer_.place(ticks[i], member_name(name, i), rects[i]);
             finish(ticks[i], to_qt(tick_text(kind, cell)), {.text = tables::black});
         }
     }
@@ -39,8 +40,8 @@ public:
         for (std::size_t i = 0; i < controls_.color.size(); ++i) {
             const QColor colour = to_qt(tables::preset_colours[i]);
             Button& preset = controls_.color[i];
-            place(preset, member_name("color", i),
-                  {2040 + 240 * tables::preset_slot(static_cast<int>(i)), 7200, 255, 255});
+            placer_.place(preset, member_name("color", i),
+                          {2040 + 240 * tables::preset_slot(static_cast<int>(i)), 7200, 255, 255});
             preset.set_face(colour);
             preset.setAccessibleName(QString("Preset %1: ").arg(i) + spoken_colour(colour));
         }
@@ -49,10 +50,9 @@ public:
     void place_scales() {
         for (const tables::ScaleRow& row : tables::scales) {
             CellArray& cells = controls_.*row.control;
-            cells.setParent(&window_);
-            cells.setObjectName(QString::fromLatin1(row.name));
+            placer_.place(cells, QString::fromLatin1(row.name), {});
             cells.setAccessibleName(QString::fromLatin1(row.spoken));
-            cells.lay_out(row.top, window_.logicalDpiX());
+            cells.lay_out(row.top, placer_.dpi());
             cells.raise(); // above the temperatures between its rows
         }
     }
@@ -62,36 +62,32 @@ private:
         return QString("%1(%2)").arg(QLatin1StringView(array)).arg(index);
     }
 
-    void place(QWidget& control, const QString& name, const TwipRect& rect) {
-        cirrava::place(control, window_, name, rect);
-    }
-
-    static void finish(QLabel& label, const QString& caption, const Look& look) {
-        give_look(label, look);
+    void finish(QLabel& label, const QString& caption, const Look& look) {
+        placer_.give_look(label, look);
         label.setTextFormat(Qt::PlainText);
         label.setWordWrap(true);
         label.setText(caption);
     }
 
-    static void finish(Button& button, const QString& caption, const Look& look) {
-        give_look(button, {.font = look.font});
+    void finish(Button& button, const QString& caption, const Look& look) {
+        placer_.give_look(button, {.font = look.font});
         if (look.ground)
             button.set_face(*look.ground);
         button.setText(caption);
     }
 
-    static void finish(QLineEdit& box, const QString& spoken, const Look& look) {
-        give_look(box, look);
+    void finish(QLineEdit& box, const QString& spoken, const Look& look) {
+        placer_.give_look(box, look);
         box.setReadOnly(true);
         box.setAccessibleName(spoken);
     }
 
-    static void finish(QWidget& control, const QString& spoken, const Look&) {
+    void finish(QWidget& control, const QString& spoken, const Look&) {
         control.setAccessibleName(spoken);
     }
 
     CirravaControls& controls_;
-    QWidget& window_;
+    const Placer& placer_;
 };
 
 // The focus starts at the first control of the order.
@@ -119,10 +115,10 @@ void set_tab_order(CirravaControls& c) {
 
 void lay_out(CirravaControls& controls, QWidget& window) {
     window.setObjectName("Cirrava");
-    make_fixed_window(window, "Cirrava PAL", tables::client_area);
     window.setWindowIcon(program_icon());
+    const Placer placer(window, "Cirrava PAL", tables::client_area);
 
-    Builder builder(controls, window);
+    Builder builder(controls, placer);
     builder.place(tables::labels);
     builder.place(tables::arrows);
     builder.place(tables::lines);
@@ -138,7 +134,8 @@ void lay_out(CirravaControls& controls, QWidget& window) {
     builder.place_presets();
     builder.place_scales();
 
-    controls.Image1.setPixmap(program_picture(window.devicePixelRatioF()));
+    controls.Image1.setPixmap(program_picture(window.devicePixelRatioF(), placer.shrink()));
+    controls.Picture1.set_zoom(placer.shrink());
     controls.Image1.setAccessibleName("A satellite above the earth");
     const int off_the_picture = controls.Label1.fontMetrics().averageCharWidth() / 2;
     controls.Label1.setContentsMargins(off_the_picture, 0, 0, 0);

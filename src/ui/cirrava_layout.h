@@ -5,7 +5,7 @@
 namespace cirrava {
 
 // Puts every control into `window`, with its name, caption, look and tab order, and
-// gives the window its size, icon and frame. Sizes follow the window's logical dots per inch.
+// gives the window its size, icon and frame.
 void lay_out(CirravaControls& controls, QWidget& window);
 
 } // namespace cirrava

@@ -171,6 +171,23 @@ inline constexpr Row<PictureBox> picture_boxes[]{
     {&C::Picture1, "Picture1", "HVC palette preview", {12600, 2400, 1575, 3975}, standard},
 };
 
+// Each presses those of its buttons that are enabled.
+struct KeyRow {
+    QKeyCombination keys;
+    std::array<Button C::*, 3> buttons;
+};
+
+inline constexpr KeyRow keys[]{
+    {Qt::Key_F1, {&C::Command4}},
+    {Qt::CTRL | Qt::Key_O, {&C::Command5}},
+    {Qt::CTRL | Qt::Key_S, {&C::thermal_command, &C::sea_command, &C::hvc_command}},
+    {Qt::CTRL | Qt::Key_Return, {&C::Command2}},
+    {Qt::CTRL | Qt::Key_Enter, {&C::Command2}},
+    {Qt::CTRL | Qt::Key_1, {&C::thermal_butt}},
+    {Qt::CTRL | Qt::Key_2, {&C::Sea_butt}},
+    {Qt::CTRL | Qt::Key_3, {&C::hvc_butt}},
+};
+
 struct ScaleRow {
     CellArray C::*control;
     const char* name;

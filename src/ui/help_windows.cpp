@@ -1,8 +1,7 @@
 #include "ui/help_windows.h"
 
 #include "ui/help_texts.h"
-#include "ui/look.h"
-#include "ui/placing.h"
+#include "ui/placer.h"
 #include "widgets/button.h"
 
 #include <QDialog>
@@ -22,15 +21,20 @@ constexpr QRgb green = qRgb(0, 128, 0);
 class HelpWindow : public QDialog {
 public:
     HelpWindow(QWidget& parent, const QString& name, const QString& title, QSize client_area)
-        : QDialog(&parent) {
+        : QDialog(&parent), placer_(*this, title, client_area) {
         setObjectName(name);
-        make_fixed_window(*this, title, client_area);
         connect(&Command1_, &Button::clicked, this, &QDialog::accept);
     }
 
+    void place_heading(const QString& text, const TwipRect& rect, const FontLook& font) {
+        placer_.place(Label1_, "Label1", rect);
+        placer_.give_look(Label1_, {.font = font});
+        Label1_.setText(text);
+    }
+
     void place_text(const QString& text, const TwipRect& rect, QRgb ink, const FontLook& font) {
-        place(Text1_, *this, "Text1", rect);
-        Text1_.setFont(to_font(font));
+        placer_.place(Text1_, "Text1", rect);
+        Text1_.setFont(placer_.font(font));
         QPalette palette = Text1_.palette();
         palette.setColor(QPalette::Base, QColor(paper));
         palette.setColor(QPalette::Text, QColor(ink));
@@ -45,8 +49,8 @@ public:
     }
 
     void place_button(const QString& caption, const TwipRect& rect, const FontLook& font) {
-        place(Command1_, *this, "Command1", rect);
-        give_look(Command1_, {.font = font});
+        placer_.place(Command1_, "Command1", rect);
+        placer_.give_look(Command1_, {.font = font});
         Command1_.setText(caption);
         Command1_.setAutoDefault(false); // Enter in the text does not press it
     }
@@ -57,6 +61,8 @@ protected:
     }
 
 private:
+    const Placer placer_;
+    QLabel Label1_;
     QPlainTextEdit Text1_;
     Button Command1_;
 };
@@ -73,13 +79,9 @@ void show_palhelp(QWidget& parent) {
 
 void show_hvchelp(QWidget& parent) {
     HelpWindow window(parent, "hvchelp", "About HVC Palette", {4680, 6915});
-    QLabel Label1;
-    place(Label1, window, "Label1", {120, 240, 4335, 375});
-    give_look(
-        Label1,
-        {.font = {
-             .family = FontFamily::narrow, .points = 14.25, .bold = true, .underlined = true}});
-    Label1.setText("Information about HVC Palette");
+    window.place_heading(
+        "Information about HVC Palette", {120, 240, 4335, 375},
+        {.family = FontFamily::narrow, .points = 14.25, .bold = true, .underlined = true});
     window.place_text(hvc_text, {120, 840, 4335, 5175}, green, {.points = 9.75});
     window.place_button("QUIT", {1320, 6240, 1935, 495}, {.family = FontFamily::narrow});
     fit_captions(window);

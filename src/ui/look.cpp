@@ -35,7 +35,10 @@ public:
         case SH_ScrollBar_LeftClickAbsolutePosition: // the track moves by one step, never jumps
         case SH_ScrollBar_MiddleClickAbsolutePosition:
         case SH_DialogButtonBox_ButtonsHaveIcons:
+        case SH_FocusFrame_Mask: // which would leave out the control
             return 0;
+        case SH_FocusFrame_AboveWidget:
+            return 1;
         default:
             return QProxyStyle::styleHint(hint, option, widget, data);
         }
@@ -71,30 +74,10 @@ QFont to_font(const FontLook& look) {
     return font;
 }
 
-void give_look(QWidget& control, const Look& look) {
-    // What a look leaves open is left alone: controls that share the program's font and palette
-    // share what the style has drawn for them, too.
-    if (look.font != FontLook{}) {
-        QFont font = to_font(look.font);
-        font.setStyleStrategy(QFont::NoFontMerging); // captions need no letters of other fonts
-        control.setFont(font);
-    }
-    if (!look.text && !look.ground)
-        return;
-    QPalette palette = control.palette();
-    if (look.text)
-        palette.setColor(control.foregroundRole(), QColor(*look.text));
-    if (look.ground) {
-        palette.setColor(control.backgroundRole(), QColor(*look.ground));
-        control.setAutoFillBackground(true);
-    }
-    control.setPalette(palette);
-}
-
-QPixmap program_picture(double scale) {
+QPixmap program_picture(double scale, double zoom) {
     const QString density = scale <= 1 ? QString() : QString("@%1x").arg(scale <= 2 ? 2 : 3);
     QImage image = read_png(":/picture" + density + ".png");
-    const QSize size = (QSizeF(72, 96) * scale).toSize();
+    const QSize size = (QSizeF(72, 96) * scale * zoom).toSize();
     if (image.size() != size)
         image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     image.setDevicePixelRatio(scale);

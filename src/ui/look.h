@@ -30,11 +30,9 @@ struct Look {
 
 QFont to_font(const FontLook& look);
 
-// Gives `control` the font and text colour of `look`, and its ground where the control fills one.
-void give_look(QWidget& control, const Look& look);
-
-// The satellite above the earth: 72 x 96 pixels, sharp at `scale` device pixels to a pixel.
-QPixmap program_picture(double scale);
+// The satellite above the earth: 72 x 96 pixels times `zoom`, sharp at `scale` device pixels to a
+// pixel.
+QPixmap program_picture(double scale, double zoom);
 
 QIcon program_icon();
 

@@ -1,7 +1,5 @@
 #include "widgets/button.h"
 
-#include "widgets/focus_outline.h"
-
 #include <QKeyEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -20,7 +18,8 @@ void Button::set_face(const QColor& face) {
 }
 
 QRect Button::caption_box() const {
-    return rect() - focus_margins;
+    constexpr QMargins margins(3, 3, 3, 3);
+    return rect() - margins;
 }
 
 void Button::paintEvent(QPaintEvent*) {
@@ -34,8 +33,6 @@ void Button::paintEvent(QPaintEvent*) {
     const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     painter.setPen(palette().color(group, QPalette::ButtonText));
     painter.drawText(caption_box(), Qt::AlignCenter | Qt::TextDontClip | Qt::TextWordWrap, text());
-    paint_focus_outline(painter, *this,
-                        face_.isValid() ? face_ : palette().color(QPalette::Button));
 }
 
 // Qt lets Enter press a button in dialogs only.

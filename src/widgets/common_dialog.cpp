@@ -26,8 +26,8 @@ void CommonDialog::ShowSave() {
     FileName = given(dialogs_.save(file_question()));
 }
 
-void CommonDialog::ShowColor() {
-    Color = given(dialogs_.colour(Color));
+void CommonDialog::ShowColor(const QColor& shown_first) {
+    Color = given(dialogs_.colour(shown_first));
 }
 
 FileQuestion CommonDialog::file_question() const {

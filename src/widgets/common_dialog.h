@@ -20,11 +20,11 @@ public:
     // opens in the user's documents folder or home instead.
     QString InitDir;
     bool CancelError = false; // true at each call: a cancel throws Failure{cancelled}
-    QColor Color = Qt::black; // shown first by ShowColor; after it: the colour chosen
+    QColor Color;             // after ShowColor: the colour chosen
 
     void ShowOpen();
     void ShowSave();
-    void ShowColor();
+    void ShowColor(const QColor& shown_first);
 
 private:
     FileQuestion file_question() const;

@@ -1,18 +1,41 @@
 #include "widgets/focus_outline.h"
 
-#include <QStyleOptionFocusRect>
-#include <QStylePainter>
+#include <QApplication>
+#include <QPainter>
+#include <QStyle>
 
 namespace cirrava {
 
-void paint_focus_outline(QStylePainter& painter, const QWidget& control, const QColor& ground) {
-    if (!control.hasFocus())
-        return;
-    QStyleOptionFocusRect option;
-    option.initFrom(&control);
-    option.rect = control.rect() - focus_margins;
-    option.backgroundColor = ground;
-    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+namespace {
+
+// The edge of `box`, `width` wide, to its inside.
+void paint_edge(QPainter& painter, const QRectF& box, double width, Qt::GlobalColor colour) {
+    const QSizeF across(box.width(), width);
+    const QSizeF down(width, box.height());
+    painter.fillRect({box.topLeft(), across}, colour);
+    painter.fillRect({box.bottomLeft() - QPointF(0, width), across}, colour);
+    painter.fillRect({box.topLeft(), down}, colour);
+    painter.fillRect({box.topRight() - QPointF(width, 0), down}, colour);
+}
+
+} // namespace
+
+FocusOutline::FocusOutline(QWidget& window) : QFocusFrame(&window) {
+    connect(qApp, &QApplication::focusChanged, this, [this, &window](QWidget*, QWidget* now) {
+        const bool by_keys = window.testAttribute(Qt::WA_KeyboardFocusChange);
+        const bool here = now != nullptr && now->window() == &window;
+        setWidget(by_keys && here ? now : nullptr);
+    });
+}
+
+void FocusOutline::paintEvent(QPaintEvent*) {
+    const int beyond = style()->pixelMetric(QStyle::PM_FocusFrameHMargin); // the control's edge
+    const QRectF box = rect().adjusted(beyond, beyond, -beyond, -beyond);
+    const double scale = devicePixelRatioF();
+    const double line = qRound(scale) / scale; // of whole device pixels
+    QPainter painter(this);
+    paint_edge(painter, box, line, Qt::black);
+    paint_edge(painter, box.adjusted(line, line, -line, -line), line, Qt::white);
 }
 
 } // namespace cirrava

@@ -1,17 +1,19 @@
 #pragma once
 
-#include <QMargins>
-
-class QColor;
-class QStylePainter;
-class QWidget;
+#include <QFocusFrame>
 
 namespace cirrava {
 
-// From the edge of a control to its focus outline, in pixels.
-inline constexpr QMargins focus_margins{3, 3, 3, 3};
+// Shows which control of `window` has the keyboard, once keys have moved it there: a black and a
+// white line around its edge, which stand out from every colour and leave the pixels within them
+// as they are.
+class FocusOutline : public QFocusFrame {
+    Q_OBJECT
+public:
+    explicit FocusOutline(QWidget& window);
 
-// Shows that `control` has the keyboard, where it has; `ground` is the colour beneath.
-void paint_focus_outline(QStylePainter& painter, const QWidget& control, const QColor& ground);
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
 
 } // namespace cirrava

@@ -1,8 +1,5 @@
 #include "widgets/number_bar.h"
 
-#include "widgets/focus_outline.h"
-
-#include <QStylePainter>
 #include <QWheelEvent>
 
 namespace cirrava {
@@ -15,12 +12,6 @@ NumberBar::NumberBar(int maximum, int value) : QScrollBar(Qt::Horizontal) {
     setInvertedControls(false); // right and up are more, for keys and wheel
     setContextMenuPolicy(Qt::NoContextMenu);
     setFocusPolicy(Qt::StrongFocus);
-}
-
-void NumberBar::paintEvent(QPaintEvent* event) {
-    QScrollBar::paintEvent(event);
-    QStylePainter painter(this);
-    paint_focus_outline(painter, *this, palette().color(QPalette::Window));
 }
 
 void NumberBar::wheelEvent(QWheelEvent* event) {

@@ -5,14 +5,13 @@
 namespace cirrava {
 
 // A horizontal scroll bar for a number from 0 to `maximum`: arrows, track, keys and each notch of
-// the wheel move it by 1, Tab reaches it, and the focus shows on it.
+// the wheel move it by 1, and Tab reaches it.
 class NumberBar : public QScrollBar {
     Q_OBJECT
 public:
     explicit NumberBar(int maximum, int value = 0);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:

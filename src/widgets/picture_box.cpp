@@ -1,9 +1,8 @@
 #include "widgets/picture_box.h"
 
-#include "widgets/focus_outline.h"
 #include "widgets/sunken_border.h"
 
-#include <QStylePainter>
+#include <QPainter>
 
 namespace cirrava {
 
@@ -18,12 +17,11 @@ void PictureBox::show_image(const QImage& image) {
 }
 
 void PictureBox::paintEvent(QPaintEvent* event) {
-    QStylePainter painter(this);
+    QPainter painter(this);
     painter.setClipRect(contentsRect());
-    painter.drawImage(QRect(contentsRect().topLeft(), image_.size()), image_);
+    painter.drawImage(QRectF(contentsRect().topLeft(), image_.size() * zoom_), image_);
     painter.setClipping(false);
     QFrame::paintEvent(event);
-    paint_focus_outline(painter, *this, palette().color(QPalette::Window));
 }
 
 } // namespace cirrava

@@ -12,6 +12,9 @@ class PictureBox : public QFrame {
 public:
     PictureBox();
 
+    // How many pixels of the box a pixel of an image takes.
+    void set_zoom(double zoom) { zoom_ = zoom; }
+
     void show_image(const QImage& image);
     const QImage& image() const { return image_; }
 
@@ -20,6 +23,7 @@ protected:
 
 private:
     QImage image_;
+    double zoom_ = 1;
 };
 
 } // namespace cirrava

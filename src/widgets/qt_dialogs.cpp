@@ -60,13 +60,15 @@ std::optional<QString> ask_for_file(QWidget& parent, const FileQuestion& questio
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setAcceptMode(mode);
+    if (mode == QFileDialog::AcceptSave)
+        dialog.setLabelText(QFileDialog::LookIn, "Save in:");
     dialog.setSidebarUrls(side_bar_folders());
     dialog.selectFile(question.name);
     let_typing_replace_selection(dialog);
     make_room_for_names(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return dialog.selectedFiles().value(0);
+    return QDir::cleanPath(dialog.selectedFiles().value(0));
 }
 
 // `text` with breaks that do not show in each word wider than `width` pixels, such as a long path,

@@ -5,9 +5,12 @@
 
 namespace cirrava {
 
-// A colour as screen readers say it: "255, 0, 0" for red.
+// A colour as screen readers say it.
 inline QString spoken_colour(const QColor& colour) {
-    return QString("%1, %2, %3").arg(colour.red()).arg(colour.green()).arg(colour.blue());
+    return QString("red %1, green %2, blue %3")
+        .arg(colour.red())
+        .arg(colour.green())
+        .arg(colour.blue());
 }
 
 } // namespace cirrava

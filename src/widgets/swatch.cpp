@@ -1,10 +1,9 @@
 #include "widgets/swatch.h"
 
-#include "widgets/focus_outline.h"
 #include "widgets/spoken_colour.h"
 #include "widgets/sunken_border.h"
 
-#include <QStylePainter>
+#include <QPainter>
 
 namespace cirrava {
 
@@ -22,10 +21,9 @@ void Swatch::set_colour(const QColor& colour) {
 }
 
 void Swatch::paintEvent(QPaintEvent* event) {
-    QStylePainter painter(this);
+    QPainter painter(this);
     painter.fillRect(contentsRect(), colour_);
     QFrame::paintEvent(event);
-    paint_focus_outline(painter, *this, colour_);
 }
 
 } // namespace cirrava

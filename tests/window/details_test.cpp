@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QToolTip>
 
 // What the random walk does not come to.
@@ -15,7 +16,7 @@ TEST_F(Details, ScreenReadersHearAndWorkEveryCell) {
     auto* const cells = QAccessible::queryAccessibleInterface(&thermal());
     auto* const cell = cells->child(30);
     EXPECT_EQ(cell->text(QAccessible::Name), "cell 31, -95.0 C, -139 F");
-    EXPECT_EQ(cell->text(QAccessible::Description), "255, 224, 192");
+    EXPECT_EQ(cell->text(QAccessible::Description), "red 255, green 224, blue 192");
     EXPECT_EQ(cell->rect().topLeft(), window.mapToGlobal(QPoint(248, 137)));
     apply(5);
     cells->child(29)->actionInterface()->doAction("an unknown one");
@@ -23,9 +24,28 @@ TEST_F(Details, ScreenReadersHearAndWorkEveryCell) {
         cell->actionInterface()->doAction(action);
     EXPECT_EQ(box(1) + box(2), "-95.0-95.0");
     press("color(9)");
-    EXPECT_EQ(find<Swatch>("sample").accessibleDescription(), "255, 0, 0");
+    EXPECT_EQ(find<Swatch>("sample").accessibleDescription(), "red 255, green 0, blue 0");
     cell->actionInterface()->doAction("copy colour");
     EXPECT_EQ(swatch(), Qt::black);
+}
+
+TEST_F(Details, ScreenReadersHearOfTheWindowAndItsWorkingScale) {
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Window);
+    press("hvc_butt");
+    EXPECT_EQ(find<Button>("hvc_butt").accessibleDescription(), "working scale");
+    EXPECT_EQ(find<Button>("thermal_butt").accessibleDescription(), "");
+}
+
+TEST_F(Details, EnterThatIsHeldPressesNothing) {
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    QCoreApplication::sendEvent(&find<Button>("color(9)"), &held);
+    EXPECT_EQ(swatch(), Qt::black);
+}
+
+TEST_F(Details, TheFocusFollowsTheScaleFromOneGenerateButtonToTheNext) {
+    find<Button>("thermal_command").setFocus();
+    QTest::keySequence(&window, Qt::CTRL | Qt::Key_3);
+    EXPECT_TRUE(find<Button>("hvc_command").hasFocus());
 }
 
 TEST_F(Details, ATooltipTellsTheTemperature) {

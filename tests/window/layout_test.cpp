@@ -113,4 +113,45 @@ TEST_F(Layout, CellsAreCrispAndTouch) {
     }
 }
 
+TEST_F(Layout, ALineUnderCellsShowsWhichAreMarked) {
+    // Two points below each of the cells 19 to 22.
+    const auto line_of = [this](const CellArray& cells) {
+        const QImage picture = window.grab().toImage();
+        QString line;
+        for (int cell = 19; cell <= 22; ++cell)
+            for (const double part : {0.1, 0.35}) {
+                const QRectF box = cells.cell_box(cell).translated(cells.pos());
+                const double pitch = cells.cell_box(cell + 1).x() - cells.cell_box(cell).x();
+                const QPointF point(box.left() + part * pitch, box.bottom() + 0.5);
+                const QPointF pixel = point * picture.devicePixelRatio();
+                const QColor colour = picture.pixelColor(int(pixel.x()), int(pixel.y()));
+                line += colour == QColor(0, 95, 184) ? '-' : '.';
+            }
+        return line;
+    };
+    select(thermal(), 20, 21);
+    EXPECT_EQ(line_of(thermal()), "..----..");
+    select(hvc(), 22, 20);
+    EXPECT_EQ(line_of(thermal()), "........");
+    EXPECT_EQ(line_of(hvc()), "..--..--");
+    select(hvc(), 20, 21);
+    press("Sea_butt");
+    press("hvc_butt"); // the boxes are blank, and the brightness would change the cells
+    EXPECT_EQ(line_of(hvc()), "..-.-...");
+}
+
+TEST_F(Layout, TheFocusShowsAroundAControlAndLeavesItsColour) {
+    while (window.focusWidget() != &find<Swatch>("sample"))
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    find<NumberBar>("HScroll1").setValue(254);
+    const QImage picture = window.grab().toImage();
+    const QRectF box = find<Swatch>("sample").geometry();
+    const int line = qRound(picture.devicePixelRatio());
+    const QPoint edge =
+        (QPointF(box.left(), box.center().y()) * picture.devicePixelRatio()).toPoint();
+    EXPECT_EQ(picture.pixelColor(edge), Qt::black);
+    EXPECT_EQ(picture.pixelColor(edge + QPoint(line, 0)), Qt::white);
+    EXPECT_EQ(picture.pixelColor(edge + QPoint(4 * line, 0)), QColor(254, 0, 0));
+}
+
 } // namespace cirrava

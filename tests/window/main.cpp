@@ -1,14 +1,14 @@
-#include "ui/look.h"
-#include "ui/set_up_process.h"
+#include "ui/set_up.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>
 
 int main(int argc, char* argv[]) {
     testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" SCREENS "/large_screen.json");
     cirrava::set_up_process();
     QApplication application(argc, argv);
-    cirrava::set_program_look(application);
+    cirrava::set_up_application(application);
     return RUN_ALL_TESTS();
 }

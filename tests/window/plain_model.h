@@ -67,8 +67,17 @@ struct Model {
 
     // Keys in a box of the range.
     void step(int side, int by) {
-        const int from = !is_blank(side) ? ends[side] : !is_blank(1 - side) ? ends[1 - side] : 0;
-        mark(working, std::clamp(from + by, 0, last_cells[working]), side);
+        const int other_end = is_blank(1 - side) ? 0 : ends[1 - side];
+        const bool only_there = is_blank(side) && std::abs(by) < 1000;
+        const int to = only_there ? other_end : ends[side] + by;
+        mark(working, std::clamp(to, 0, last_cells[working]), side);
+    }
+
+    // Whether the full line is under it.
+    bool is_selected(int scale, int cell) const {
+        const bool whole = !is_blank(0) && !is_blank(1) && ends[0] <= ends[1];
+        const bool at_end = (cell == ends[0] && !is_blank(0)) || (cell == ends[1] && !is_blank(1));
+        return scale == working && (at_end || (whole && ends[0] < cell && cell < ends[1]));
     }
 
     void take(int colour) { current = {colour % 256, colour / 256 % 256, colour / 65536}; }

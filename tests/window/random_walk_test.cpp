@@ -12,6 +12,11 @@ namespace {
 const QStringList choosers{"thermal_butt", "Sea_butt", "hvc_butt"};
 const QStringList writers{"thermal_command", "sea_command", "hvc_command"};
 
+const QMap<QString, QKeySequence> shortcuts{{"thermal_butt", Qt::CTRL | Qt::Key_1},
+                                            {"Sea_butt", Qt::CTRL | Qt::Key_2},
+                                            {"hvc_butt", Qt::CTRL | Qt::Key_3},
+                                            {"Command2", Qt::CTRL | Qt::Key_Return}};
+
 int to_model(const QColor& colour) {
     return colour.red() + 256 * colour.green() + 65536 * colour.blue();
 }
@@ -40,7 +45,10 @@ protected:
             ASSERT_EQ(caption(QString("Label%1").arg(15 + i)), QString::number(model_.current[i]));
             ASSERT_EQ(find<Button>(choosers[i]).face() == QColor(Qt::green), model_.working == i);
             ASSERT_EQ(find<Button>(writers[i]).isEnabled(), model_.working == i);
-            ASSERT_EQ(QList({&thermal(), &sea(), &hvc()})[i]->colours(), model_.cells[i]);
+            const CellArray& cells = *QList{&thermal(), &sea(), &hvc()}[i];
+            ASSERT_EQ(cells.colours(), model_.cells[i]);
+            for (int cell = 0; cell <= model_.last_cells[i]; ++cell)
+                ASSERT_EQ(cells.is_selected(cell), model_.is_selected(i, cell)) << i << ' ' << cell;
         }
         const QImage& picture = find<PictureBox>("Picture1").image();
         ASSERT_EQ(picture.width(), model_.picture.size());
@@ -56,6 +64,7 @@ private:
         const int scale = one_in(3) ? draw(3) : model_.working;
         const int channel = draw(3);
         const QString preset = QString("color(%1)").arg(draw(48));
+        const QColor before = swatch();
         switch (draw(12)) {
         case 0:
             press_button(choosers[scale]);
@@ -68,6 +77,7 @@ private:
             if (!one_in(3))
                 user.colour = QColor(draw(256), draw(256), draw(256));
             press_button("pickcolor");
+            model_.told << (model_.colour() == 0 ? "#ffffff" : before.name());
             return user.colour ? model_.take(to_model(*user.colour)) : void();
         case 3:
             model_.current[channel] = move_slider(slider(channel), model_.current[channel]);
@@ -121,8 +131,9 @@ private:
         auto& text_box = find<QWidget>(side == 0 ? "Text1" : "Text2");
         text_box.setFocus();
         const auto [key, by] = QList<std::pair<Qt::Key, int>>{
-            {Qt::Key_Up, 1},         {Qt::Key_Down, -1},    {Qt::Key_PageUp, 10},
-            {Qt::Key_PageDown, -10}, {Qt::Key_Home, -1000}, {Qt::Key_End, 1000}}[draw(6)];
+            {Qt::Key_Up, 1},       {Qt::Key_Down, -1},   {Qt::Key_Right, 1},
+            {Qt::Key_Left, -1},    {Qt::Key_PageUp, 10}, {Qt::Key_PageDown, -10},
+            {Qt::Key_Home, -1000}, {Qt::Key_End, 1000}}[draw(8)];
         const auto pad = one_in(2) ? Qt::KeypadModifier : Qt::NoModifier;
         const auto control = std::abs(by) == 1000 ? Qt::ControlModifier : Qt::NoModifier;
         QTest::keyClick(&text_box, key, control | pad);
@@ -160,7 +171,9 @@ private:
     }
 
     void press_button(const QString& name) {
-        if (one_in(4))
+        if (shortcuts.contains(name) && one_in(3))
+            QTest::keySequence(window.focusWidget(), shortcuts[name]);
+        else if (one_in(4))
             QTest::keyClick(&find<Button>(name), one_in(2) ? Qt::Key_Space : Qt::Key_Return);
         else
             press(name);

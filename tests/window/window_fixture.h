@@ -34,7 +34,11 @@ struct User {
         };
         return {.open = choose_file,
                 .save = choose_file,
-                .colour = [this](const QColor&) { return colour; },
+                .colour =
+                    [this](const QColor& initial) {
+                        heard << initial.name();
+                        return colour;
+                    },
                 .ask = ask,
                 .tell = [this](const QString& text) { heard << text; }};
     }

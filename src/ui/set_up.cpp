@@ -1,6 +1,8 @@
-#include "ui/set_up_process.h"
+#include "ui/set_up.h"
 
 #include "platform/file_system.h"
+#include "ui/look.h"
+#include "widgets/held_enter.h"
 
 #include <QApplication>
 #include <QSettings>
@@ -13,6 +15,11 @@ void set_up_process() {
     // Nothing is kept between runs: Qt's dialogs find nowhere for their histories. On Windows it
     // takes the Qt that packaging/windows builds.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ":/");
+}
+
+void set_up_application(QApplication& application) {
+    set_program_look(application);
+    ignore_held_enter(application);
 }
 
 } // namespace cirrava

@@ -1,0 +1,97 @@
+#include "ui/placer.h"
+
+#include "widgets/button.h"
+#include "widgets/focus_outline.h"
+
+#include <QLabel>
+#include <QScreen>
+#include <QtMath>
+
+namespace cirrava {
+
+namespace {
+
+// How much of its size a client area can have on `screen`, from 0.6 to 1.
+double fitting(QSize client_area, const QScreen& screen) {
+    constexpr QSize frame(10, 40); // about what window managers put around a window
+    const QSizeF room = screen.availableSize() - frame;
+    return qBound(
+        0.6, qMin(room.width() / client_area.width(), room.height() / client_area.height()), 1.0);
+}
+
+// `box` is in the control's pixels.
+void fit(QWidget& control, const QString& caption, const QRect& box) {
+    constexpr int narrowest = 60; // percent; below it nobody could read it
+    const auto fits = [&] {
+        const QFontMetrics metrics = control.fontMetrics();
+        const QRect endless(0, 0, box.width(), QWIDGETSIZE_MAX);
+        const QSize room = metrics.boundingRect(endless, Qt::TextWordWrap, caption).size();
+        const bool one_line = room.height() < 2 * metrics.height();
+        return room.width() <= box.width() && (one_line || room.height() <= box.height());
+    };
+    QFont font = control.font();
+    for (int percent = 98; !fits() && percent >= narrowest; percent -= 2) {
+        font.setStretch(percent);
+        control.setFont(font);
+    }
+}
+
+} // namespace
+
+Placer::Placer(QWidget& window, const QString& title, QSize client_area) : window_(window) {
+    const int screen_dpi = window.logicalDpiX();
+    const TwipRect rect{0, 0, client_area.width(), client_area.height()};
+    dpi_ = qFloor(screen_dpi * fitting(to_pixels(rect, screen_dpi).size(), *window.screen()));
+    shrink_ = double(dpi_) / screen_dpi;
+
+    const Qt::WindowFlags kind = window.windowFlags() & Qt::WindowType_Mask;
+    window.setWindowFlags(kind | Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
+                          Qt::MSWindowsFixedSizeDialogHint);
+    window.setWindowTitle(title);
+    window.setFixedSize(to_pixels(rect, dpi_).size());
+    if (shrink_ < 1)
+        window.setFont(font({}));
+    new FocusOutline(window); // the window owns it
+}
+
+void Placer::place(QWidget& control, const QString& name, const TwipRect& rect) const {
+    control.setParent(&window_);
+    control.setObjectName(name);
+    control.setGeometry(to_pixels(rect, dpi_));
+}
+
+QFont Placer::font(const FontLook& look) const {
+    QFont font = to_font(look);
+    font.setPointSizeF(look.points * shrink_);
+    return font;
+}
+
+void Placer::give_look(QWidget& control, const Look& look) const {
+    // What a look leaves open is left alone: controls that share the program's font and palette
+    // share what the style has drawn for them, too.
+    if (look.font != FontLook{}) {
+        QFont caption_font = font(look.font);
+        caption_font.setStyleStrategy(QFont::NoFontMerging); // they need no letters of other fonts
+        control.setFont(caption_font);
+    }
+    if (!look.text && !look.ground)
+        return;
+    QPalette palette = control.palette();
+    if (look.text)
+        palette.setColor(control.foregroundRole(), QColor(*look.text));
+    if (look.ground) {
+        palette.setColor(control.backgroundRole(), QColor(*look.ground));
+        control.setAutoFillBackground(true);
+    }
+    control.setPalette(palette);
+}
+
+void fit_captions(const QWidget& window) {
+    for (auto* const label : window.findChildren<QLabel*>())
+        fit(*label, label->text().trimmed(), label->contentsRect());
+    for (auto* const button : window.findChildren<Button*>())
+        fit(*button, button->text().trimmed(), button->caption_box());
+}
+
+} // namespace cirrava

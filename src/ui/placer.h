@@ -1,0 +1,40 @@
+#pragma once
+
+#include "ui/look.h"
+#include "widgets/twips.h"
+
+namespace cirrava {
+
+// Lays out a window that cannot be resized, from rectangles in twips and fonts in points. Where the
+// window would not fit on its screen, it does so for fewer dots per inch than the screen has, down
+// to 0.6 of them.
+class Placer {
+public:
+    // Gives `window` that title, a close box and no other title-bar button, a client area of that
+    // size in twips, and the outline of the focus.
+    Placer(QWidget& window, const QString& title, QSize client_area);
+
+    int dpi() const { return dpi_; }
+    double shrink() const { return shrink_; } // of the screen's dots per inch; 1 where it fits
+
+    // Puts `control` into the window under that name.
+    void place(QWidget& control, const QString& name, const TwipRect& rect) const;
+
+    QFont font(const FontLook& look) const;
+
+    // Gives `control` the font and text colour of `look`, and its ground where the control fills
+    // one.
+    void give_look(QWidget& control, const Look& look) const;
+
+private:
+    QWidget& window_;
+    int dpi_;
+    double shrink_;
+};
+
+// Narrows the font of every caption of `window` until it fits its box, wrapped where the box has
+// room for several lines. Fonts differ in width from one machine to the next; boxes do not. After
+// the last caption is written.
+void fit_captions(const QWidget& window);
+
+} // namespace cirrava
