@@ -21,6 +21,7 @@ void paint_edge(QPainter& painter, const QRectF& box, double width, Qt::GlobalCo
 } // namespace
 
 FocusOutline::FocusOutline(QWidget& window) : QFocusFrame(&window) {
+    hide();
     connect(qApp, &QApplication::focusChanged, this, [this, &window](QWidget*, QWidget* now) {
         const bool by_keys = window.testAttribute(Qt::WA_KeyboardFocusChange);
         const bool here = now != nullptr && now->window() == &window;

@@ -13,7 +13,8 @@ struct TwipRect {
 };
 
 // `rect` in the pixels of a window with `dpi` logical dots per inch (15 twips to a pixel at 96).
-// Edges are rounded, not sizes, so that rectangles that touch in twips touch in pixels.
+// Edges are rounded, not sizes, so that rectangles that touch in twips touch in pixels; a thin one
+// is at least a pixel wide and high.
 QRect to_pixels(const TwipRect& rect, int dpi);
 
 } // namespace cirrava

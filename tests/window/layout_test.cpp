@@ -1,6 +1,7 @@
 #include "window_fixture.h"
 
 #include <QAccessible>
+#include <QFocusFrame>
 
 namespace cirrava {
 
@@ -141,6 +142,7 @@ TEST_F(Layout, ALineUnderCellsShowsWhichAreMarked) {
 }
 
 TEST_F(Layout, TheFocusShowsAroundAControlAndLeavesItsColour) {
+    EXPECT_FALSE(window.findChild<QFocusFrame*>()->isVisible());
     while (window.focusWidget() != &find<Swatch>("sample"))
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     find<NumberBar>("HScroll1").setValue(254);
