@@ -22,12 +22,12 @@ constexpr char description[] =
     "Cirrava to produce color enhancements as per your requirements,  in Thermal, HVC and Sea "
     "Surface temperature categories.\n\n"
     "Please click the \"How to use\" button to learn more.\n\n"
-    "Developed by the Cirrava PAL developers.";
+    "Developed by Quillmark.";
 
 constexpr char disclaimer[] =
     "This software comes with the usual warnings. It was developed as a hobby in free time and "
     "tested reasonably well. Please report faults, and send a note of appreciation if you like it. "
-    "To communicate, please use the decoder's user group. This is free software that comes with no "
+    "To communicate, please use Cirrava's user group. This is free software that comes with no "
     "warranty or claim.\n\n"
     "Good luck";
 
