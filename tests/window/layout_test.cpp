@@ -147,10 +147,9 @@ TEST_F(Layout, TheFocusShowsAroundAControlAndLeavesItsColour) {
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     find<NumberBar>("HScroll1").setValue(254);
     const QImage picture = window.grab().toImage();
-    const QRectF box = find<Swatch>("sample").geometry();
     const int line = qRound(picture.devicePixelRatio());
-    const QPoint edge =
-        (QPointF(box.left(), box.center().y()) * picture.devicePixelRatio()).toPoint();
+    const QPointF corner = find<Swatch>("sample").pos() * picture.devicePixelRatio();
+    const QPoint edge = corner.toPoint() + QPoint(0, 30);
     EXPECT_EQ(picture.pixelColor(edge), Qt::black);
     EXPECT_EQ(picture.pixelColor(edge + QPoint(line, 0)), Qt::white);
     EXPECT_EQ(picture.pixelColor(edge + QPoint(4 * line, 0)), QColor(254, 0, 0));

@@ -97,7 +97,8 @@ TEST(RealDialogs, AFileNameComesBackAsTypedWithoutAQuestion) {
     const Dialogs dialogs = qt_dialogs(parent);
     const QTemporaryDir folder;
     ASSERT_TRUE(QFile::copy(CORPUS "/sea.bmp", folder.filePath("there.bmp")));
-    for (const char* name : {"there.bmp", "<b>two words & more", "Wärme-λ-ж.bmp", "missing/a.bmp"})
+    for (const char* name :
+         {"there.bmp", "<b>two words & more", "Wärme-λ-ж.bmp", "x/../missing/a.bmp"})
         for (const auto& choose : {dialogs.save, dialogs.open}) {
             in_next<QFileDialog>([&](QFileDialog& dialog) {
                 auto& edit = find_in<QLineEdit>(dialog, "fileNameEdit");
@@ -105,7 +106,8 @@ TEST(RealDialogs, AFileNameComesBackAsTypedWithoutAQuestion) {
                 edit.insert(name); // not by keys: a name may hold letters that no key sends
                 QTest::keyClick(&edit, Qt::Key_Return);
             });
-            EXPECT_EQ(choose({"Create", "*.bmp", folder.path(), "a.bmp"}), folder.filePath(name));
+            EXPECT_EQ(choose({"Create", "*.bmp", folder.path(), "a.bmp"}),
+                      QDir::cleanPath(folder.filePath(name)));
         }
     in_next<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     EXPECT_EQ(dialogs.save({}), std::nullopt);

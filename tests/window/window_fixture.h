@@ -95,10 +95,10 @@ protected:
         QTest::mouseClick(&cells, Qt::LeftButton, {}, inside(cells, start));
         QTest::mouseClick(&cells, Qt::RightButton, {}, inside(cells, end));
     }
-    // Gives the marked cells the colour of a preset.
+    // Gives the marked cells the colour of a preset, by the key for it.
     void apply(int preset) {
         press(QString("color(%1)").arg(preset));
-        press("Command2");
+        QTest::keySequence(&window, Qt::CTRL | Qt::Key_Return);
     }
 
     User user;
