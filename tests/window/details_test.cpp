@@ -32,7 +32,12 @@ TEST_F(Details, ScreenReadersHearAndWorkEveryCell) {
 
 TEST_F(Details, EnterThatIsHeldPressesNothing) {
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
-    QCoreApplication::sendEvent(&find<Button>("color(9)"), &held);
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    release.setTimestamp(1);
+    press.setTimestamp(1); // the same instant
+    for (QKeyEvent* event : {&held, &release, &press})
+        QCoreApplication::sendEvent(&find<Button>("color(9)"), event);
     EXPECT_EQ(swatch(), Qt::black);
 }
 
