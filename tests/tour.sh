@@ -52,7 +52,6 @@ thermal_cell 220 see ff0000
 picture 2-thermal
 xdotool key --repeat 5 Tab key Return
 save_as "Create Thermal" thermal.bmp
-picture 3-write-prompt
 xdotool key Return
 expect_file thermal.bmp 22b7ecd5c421775023428863f71be12aaa13bf6386a5b0ff56b3160607a01b68
 
@@ -64,7 +63,7 @@ click "${apply[@]}"
 see "${preview_of_cell_30[@]}" ff0000
 click "${darker[@]}"
 see "${preview_of_cell_30[@]}" fa0000
-picture 4-hvc
+picture 3-hvc
 click "${hvc_command[@]}"
 save_as "Create HVC Palette" hvc.bmp
 xdotool key Return
@@ -76,7 +75,7 @@ in_window "Cirrava PAL"
 hvc_cell 20 see f80000
 xdotool key ctrl+z ctrl+z
 see "${preview_of_cell_30[@]}" ff0000
-picture 5-undone
+picture 4-undone
 
 click "${quit[@]}"
 wait "$program_id" || fail "the program ended with status $?"

@@ -1,5 +1,7 @@
 #include "window_fixture.h"
 
+#include "scale_editor/qt_values.h"
+
 #include <QFile>
 
 namespace cirrava {
@@ -23,6 +25,7 @@ protected:
     // black. `colour` is what cells come back in that were white.
     void write_and_read(const char* choose, const char* generate, CellArray& cells,
                         const QString& dialog, int size, Colour colour) {
+        const QImage& picture = find<PictureBox>("Picture1").image();
         const QFileInfo file(folder.filePath("a.bmp"));
         const QString question = dialog + ".bmp of *.bmp in PROGRAM; ";
         const QString verb = file.exists() ? "OVERWRITE" : "Write";
@@ -32,7 +35,7 @@ protected:
         EXPECT_EQ(heard_of(generate, file.filePath(), false),
                   question + "Ready to create: " + verb + " HERE/a.bmp?");
         EXPECT_EQ(QFileInfo(file.filePath()).size(), size_before);
-        EXPECT_TRUE(find<PictureBox>("Picture1").image().isNull());
+        EXPECT_TRUE(picture.isNull());
         select(cells, 7, 9);
         apply(0);
         heard_of(generate, file.filePath());
@@ -41,8 +44,11 @@ protected:
         press("Sea_butt");
         EXPECT_EQ(heard_of("Command5", file.filePath()),
                   "Read and Load palette: a.bmp of *.bmp in HERE");
-        EXPECT_EQ(cells.colour(8), colour);
         EXPECT_EQ(caption("Label5"), "Sea");
+        press(choose);
+        heard_of(generate, file.filePath()); // which shows the cells, and changes none
+        EXPECT_EQ(cells.colour(8), colour);
+        EXPECT_TRUE(picture.isNull() || picture.pixelColor(8, 127) == to_qt(colour));
         QTest::keySequence(&window, QKeySequence::Undo);
         EXPECT_EQ(cells.colour(8), 0);
     }
@@ -55,10 +61,11 @@ TEST_F(Files, AreAskedForWrittenAndReadBack) {
               "Read and Load palette:  of *.bmp in PROGRAM; Operation Cancelled");
     write_and_read("thermal_butt", "thermal_command", thermal(), "Create Thermal: thermal", 1014,
                    0xFFFFFF);
-    write_and_read("Sea_butt", "sea_command", sea(), "Create Sea Surface Palette: sea",
-                   1014, // over the Thermal file, whose end stays
+    // Over the Thermal file, whose end stays.
+    write_and_read("Sea_butt", "sea_command", sea(), "Create Sea Surface Palette: sea", 1014,
                    0xFFFFFF);
     write_and_read("hvc_butt", "hvc_command", hvc(), "Create HVC Palette: hvc", 76854, 0xFDFDFD);
+    EXPECT_TRUE(QFile::exists("~~temphvc.bmp"));
 }
 
 TEST_F(Files, DamagedOnesAreToldAndLoadAsFarAsTheyGo) {

@@ -59,7 +59,6 @@ private:
         const int scale = one_in(3) ? draw(3) : model_.working;
         const int channel = draw(3);
         const QString preset = QString("color(%1)").arg(draw(48));
-        const QColor before = swatch();
         switch (draw(12)) {
         case 0:
             press_button(choosers[scale]);
@@ -71,8 +70,8 @@ private:
             user.colour.reset();
             if (!one_in(3))
                 user.colour = QColor(draw(256), draw(256), draw(256));
+            model_.told << (swatch() == Qt::black ? "#ffffff" : swatch().name());
             press_button("pickcolor");
-            model_.told << (model_.colour() == 0 ? "#ffffff" : before.name());
             return user.colour ? model_.take(to_model(*user.colour)) : void();
         case 3:
             model_.current[channel] = move_slider(slider(channel), model_.current[channel]);
