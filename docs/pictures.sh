@@ -54,14 +54,14 @@ leave() {
     wait "$program_id"
 }
 
-# take NAME: the window, and what lies over it, with the pointer away.
+# take NAME LEFT TOP WIDTH HEIGHT: that part of the window, in twips, and what lies over it, with the
+# pointer away.
 take() {
     point_at 9000 6900
-    local frame
-    frame=$(xwininfo -id "$window" | awk '/Absolute upper-left X/ { x = $4 }
-        /Absolute upper-left Y/ { y = $4 } /Width/ { w = $2 } /Height/ { h = $2 }
-        END { print w "x" h "+" x "+" y }')
-    import -window root -crop "$frame" +repage -strip "$top/docs/$1.png"
+    local x y
+    read -r x y < <(xwininfo -id "$window" | awk '/Absolute upper-left/ { printf "%s ", $4 } END { print "" }')
+    import -window root -strip +repage -crop \
+        "$(pixels "$4")x$(pixels "$5")+$((x + $(pixels "$2")))+$((y + $(pixels "$3")))" "$top/docs/$1.png"
 }
 
 # Its name is seen on a picture. A link, since what a failed run has left must not be in the way, and
@@ -78,16 +78,16 @@ palette 100 256 '#e0e0f0' '#a0b8e8' '#5088d0' '#40a880' '#60a040' '#b8a050' '#c8
 open_screen 2048x1400
 start
 mark_range
-take step-2-range
+take step-2-range 0 1440 12540 2520
 click "${preset_9[@]}"
 see "${swatch[@]}" ff0000
-take step-3-colour
+take step-3-colour 0 7110 14415 1560
 apply_red
-take main-window
+take main-window 0 0 14415 9405
 click "${thermal_command[@]}"
 choose_file "Create Thermal" "$folder/my palette.bmp"
 in_window "Ready to create"
-take step-6-write
+take step-6-write 4890 3550 4590 1440
 xdotool key Escape
 in_window "Cirrava PAL"
 hvc_cell 60 click
@@ -96,13 +96,14 @@ click "${apply[@]}"
 hvc_cell 70 see ff0000
 click "${darker[@]}"
 hvc_cell 70 see fa0000
-take step-5-hvc
+take step-5-hvc 0 5640 14415 1260
+take step-5-preview 12500 1440 1915 5040
 leave
 
 scale_factor=2
 start QT_SCALE_FACTOR=2
 mark_range
 apply_red
-take main-window-at-scale-2
+take main-window-at-scale-2 0 0 14415 9405
 leave
 rm -r "$(realpath "$folder")" "$folder"
