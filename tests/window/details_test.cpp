@@ -30,14 +30,18 @@ TEST_F(Details, ScreenReadersHearAndWorkEveryCell) {
 }
 
 TEST_F(Details, EnterThatIsHeldPressesNothing) {
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
-    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier);
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-    for (QKeyEvent* event : {&held, &release, &press}) {
-        event->setTimestamp(1); // one instant
-        QCoreApplication::sendEvent(&find<Button>("color(9)"), event);
-    }
-    EXPECT_EQ(swatch(), Qt::black);
+    const auto press_enter = [this](QEvent::Type type, quint64 instant, bool repeat = false) {
+        QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier, "\r", repeat);
+        event.setTimestamp(instant);
+        QCoreApplication::sendEvent(window.windowHandle(), &event);
+    };
+    find<Button>("color(9)").setFocus();
+    press_enter(QEvent::KeyPress, 1);
+    find<Button>("color(3)").setFocus();
+    press_enter(QEvent::KeyPress, 2, true);
+    press_enter(QEvent::KeyRelease, 3);
+    press_enter(QEvent::KeyPress, 3);
+    EXPECT_EQ(swatch(), Qt::red);
 }
 
 TEST_F(Details, ANewWorkingScaleTakesTheFocusOfTheLastOneAndSaysWhatItIs) {
