@@ -27,21 +27,10 @@ fetch_qt() {
     dpkg-source --no-copy --extract "$folder"/apt/*.dsc "$folder/source"
 }
 
-# Qt's dialogs keep histories among the settings of programs, which are in the registry on Windows, and
-# nothing that a program can tell Qt keeps them out: this Qt finds no place for such settings.
-keep_out_of_registry() {
-    local file=$folder/source/src/corelib/io/qsettings_win.cpp condition='if (!organization.isEmpty()) {'
-    if [[ $(grep --count --fixed-strings "$condition" "$file") != 1 ]]; then
-        echo "Qt is not as it was: look for the place of the settings in $file" >&2
-        exit 1
-    fi
-    sed --in-place "s/$condition/if (false) {/" "$file"
-}
-
 build_qt() {
     local off=("${features_off[@]/#/-DFEATURE_}")
     fetch_qt
-    keep_out_of_registry
+    patch --force --strip=1 --directory="$folder/source" <"$windows/qt-settings.patch"
     cmake -S "$folder/source" -B "$folder/qt-build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
         -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$qt" -DBUILD_SHARED_LIBS=OFF \
         -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(gcc -print-multiarch)/cmake" \
