@@ -3,15 +3,21 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QTemporaryFile>
 
 namespace cirrava {
 
 namespace {
 
+// Asked by trying: on Windows, Qt does not look at a folder's permissions.
+bool is_writable(const QString& folder) {
+    return !folder.isEmpty() && QTemporaryFile(folder + "/cirrava-pal").open();
+}
+
 QString writable_folder(const QString& wanted) {
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     for (const QString& folder : {wanted, documents})
-        if (QFileInfo(folder).isWritable())
+        if (is_writable(folder))
             return folder;
     return QDir::homePath();
 }
