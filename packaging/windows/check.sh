@@ -26,13 +26,14 @@ without_denied_labels() { grep --invert-match 'Read access denied for device'; }
 
 install_packages "${screen_packages[@]}" "${wine_packages[@]}"
 folder=$(realpath --canonicalize-missing "${1:-$top/build/windows}")
-program=$folder/cirrava-pal.exe
 "$windows/make.sh" "$folder"
 
 WINEPREFIX=$(mktemp --directory)
 export WINEPREFIX WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
 trap 'wineserver --kill || true; rm -r "$WINEPREFIX"' EXIT
 cd "$WINEPREFIX"
+cmake -E tar xf "$folder"/cirrava-pal-*-windows.zip
+program=$(echo "$PWD"/cirrava-pal-*-windows/cirrava-pal.exe)
 "$windows/compile.sh" platform_check.exe
 wine platform_check.exe
 smooth_letters

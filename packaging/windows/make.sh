@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Makes the program for Windows, on Debian, with Qt in it: FOLDER/cirrava-pal.exe
+# Makes the program for Windows, on Debian, with Qt in it, and packs it with the licences and the notice
+# that must go with it: FOLDER/cirrava-pal-VERSION-windows.zip
 # make.sh [FOLDER]: build/windows without. Qt itself is built there once, from the source of the version
 # that Debian has, and used again: some 20 minutes.
 set -euo pipefail
@@ -27,6 +28,18 @@ fetch_qt() {
     dpkg-source --no-copy --extract "$folder"/apt/*.dsc "$folder/source"
 }
 
+# Keeps the licences of what is linked into the program, under their names in the source. The folders left
+# out are for other systems, or for the features that are off.
+keep_licences() (
+    cd "$folder/source"
+    mkdir "$1"
+    cp --parents --target-directory="$1" LICENSES/{CC0-1.0,GPL-3.0-only,LGPL-3.0-only}.txt
+    find LICENSES src/corelib/{text,tools} src/gui/{painting,rhi} src/3rdparty -type f -regextype egrep \
+        -regex '(LICENSES/Unicode|src/.*(LICEN[CS]E|COPYING)).*' -not -regex \
+        '.*/3rdparty/(android|forkfd|gradle|libjpeg|libpsl|pixman|VulkanMemoryAllocator|wasm|xcb)/.*' \
+        -exec cp --parents --target-directory="$1" {} +
+)
+
 build_qt() {
     local off=("${features_off[@]/#/-DFEATURE_}")
     fetch_qt
@@ -38,6 +51,7 @@ build_qt() {
         -DINPUT_opengl=no "${off[@]/%/=OFF}"
     cmake --build "$folder/qt-build"
     DESTDIR=$folder/stage cmake --install "$folder/qt-build"
+    keep_licences "$folder/stage$qt/licenses"
     mv "$folder/stage$qt" "$qt" # only when all of it is there
     rm -r "$folder"/{apt,source,qt-build,stage}
 }
@@ -52,6 +66,8 @@ qt=$folder/qt-$version
 # Afresh, since another clone may have used this folder. Newer sources of Debian leave Qt's plugins out
 # of a program that does not ask for them.
 cmake --fresh -S "$top" --preset release -B "$folder/build" -DQT_CHAINLOAD_TOOLCHAIN_FILE="$toolchain" \
-    -DCMAKE_TOOLCHAIN_FILE="$qt/lib/cmake/Qt6/qt.toolchain.cmake" -DQT_SKIP_AUTO_PLUGIN_INCLUSION=OFF
-cmake --build "$folder/build"
-x86_64-w64-mingw32-strip -o "$folder/cirrava-pal.exe" "$folder/build/cirrava-pal.exe"
+    -DCMAKE_TOOLCHAIN_FILE="$qt/lib/cmake/Qt6/qt.toolchain.cmake" -DQT_SKIP_AUTO_PLUGIN_INCLUSION=OFF \
+    -DCIRRAVA_QT_SOURCE="$version"
+rm -f "$folder"/cirrava-pal-*-windows.zip "$folder"/build/cirrava-pal-*-windows.zip
+cmake --build "$folder/build" --target package
+mv "$folder"/build/cirrava-pal-*-windows.zip "$folder"
