@@ -3,7 +3,7 @@
 build_packages=(cmake fonts-liberation g++ ninja-build qt6-base-dev qt6-wayland)
 test_packages=(clang libclang-rt-dev libgtest-dev)
 screen_packages=(at-spi2-core dbus gir1.2-atspi-2.0 imagemagick openbox python3-gi x11-utils xdotool xvfb)
-package_packages=(dpkg-dev file)
+package_packages=(build-essential debhelper)
 windows_packages=(dpkg-dev g++-mingw-w64-x86-64-posix)
 wine_packages=(wine wine64)
 package_check_packages=(appstream desktop-file-utils lintian weston)
