@@ -117,8 +117,7 @@ TEST_F(Faults, OfAFullDiskAndOfTooManyFilesAreToldByNumber) {
         EXPECT_EQ(hvc().colour(5), RGB(250, 250, 0));
     });
 #ifndef __SANITIZE_ADDRESS__ // the sanitizer needs files of its own
-    with_limit(RLIMIT_NOFILE, 3,
-               [&] { expect_told("Command5", file, "Error # 67 Cannot Read File"); });
+    with_limit(RLIMIT_NOFILE, 3, [&] { expect_numbers(file, 0, 67); });
 #endif
     press("hvc_command"); // and when the circumstances are better, so is the outcome
     EXPECT_EQ(QFile(file).size(), 76854);

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QFocusFrame>
+#include <QScreen>
 
 namespace cirrava {
 
@@ -82,6 +83,7 @@ TEST_F(Layout, ControlsStandInTheWindowSideBySide) {
     QList<QWidget*> others = controls();
     for (const CellArray* cells : {&thermal(), &sea(), &hvc()})
         others.removeOne(cells); // which lie over the temperatures between their rows
+    EXPECT_TRUE(window.screen()->availableGeometry().contains(QRect({}, window.size())));
     while (!others.isEmpty()) {
         const auto* one = others.takeLast();
         EXPECT_TRUE(window.rect().contains(one->geometry())) << qPrintable(one->objectName());
