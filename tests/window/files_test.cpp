@@ -84,7 +84,7 @@ TEST_F(Files, DamagedOnesAreToldAndLoadAsFarAsTheyGo) {
     EXPECT_EQ(thermal().colour(100), 0);
     EXPECT_EQ(load("hvc-too-short"), "Error # 62 Cannot Read File|0000ff|000000");
     EXPECT_EQ(load("hvc-just-long-enough"), "|0000ff|585858");
-    EXPECT_EQ(load("hvc-unknown-compression"), "Error # 481 Cannot Read File|0000ff|585858");
+    EXPECT_EQ(load("hvc-too-many-colours"), "Error # 481 Cannot Read File|0000ff|585858");
     const QImage& picture = find<PictureBox>("Picture1").image();
     EXPECT_EQ(picture.pixel(50, 255 - 126), qRgb(88, 88, 88));
     EXPECT_EQ(picture.pixel(50, 255 - 127), qRgb(0, 0, 0)); // the rows that the file lacks
