@@ -28,6 +28,7 @@ QAccessibleInterface* accessible_window(const QString&, QObject* object) {
 } // namespace
 
 Cirrava::Cirrava(Dialogs dialogs) : dialogs_(std::move(dialogs)) {
+    QAccessible::installFactory(accessible_window); // before anything asks for the window's
     lay_out(controls_, *this);
     start_up();
     fit_captions(*this);
@@ -37,7 +38,6 @@ Cirrava::Cirrava(Dialogs dialogs) : dialogs_(std::move(dialogs)) {
     connect_windows();
     connect_history();
     connect_keys();
-    QAccessible::installFactory(accessible_window);
 }
 
 void Cirrava::start_up() {
