@@ -38,12 +38,16 @@ Colour shifted(Colour color, int levels) {
 // Rows `from` down to `to`, in the order of the file.
 void append_hvc_rows(Bytes& bytes, std::span<const Colour> cells, int from, int to) {
     const Bytes own = pixels_of(cells);
+    const std::ptrdiff_t size = std::ssize(own) * (from - to + 1);
+    bytes.resize(bytes.size() + static_cast<std::size_t>(size));
+    auto destination = bytes.end() - size;
     for (int row = from; row >= to; --row) {
-        const auto shifted = [levels = own_colours_row - row](int value) {
-            return static_cast<std::uint8_t>(std::clamp(value + levels, 0, 255));
-        };
-        bytes.resize(bytes.size() + own.size());
-        std::transform(own.begin(), own.end(), bytes.end() - std::ssize(own), shifted);
+        // In 16 bits, which hold every sum, compilers take many bytes at once.
+        const auto levels = static_cast<std::int16_t>(own_colours_row - row);
+        destination = std::transform(own.begin(), own.end(), destination, [levels](auto value) {
+            const auto sum = static_cast<std::int16_t>(value + levels);
+            return static_cast<std::uint8_t>(std::clamp<std::int16_t>(sum, 0, 255));
+        });
     }
 }
 
