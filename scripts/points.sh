@@ -8,14 +8,10 @@ hvc_cell() { cell 6360 "$@"; }
 cell() { "$3" $((120 + 120 * ($2 % 100) + 60)) $(($1 + 480 * ($2 / 100) + 120)) "${@:4}"; }
 
 preset_9=(4080 7320) # 255, 0, 0
-preset_12=(5040 7320) # 255, 224, 192
 swatch=(12000 8000)
 ground=(13900 500) # of the window
 apply=(13700 8050)
-blue_left_arrow=(4530 8400)
-sea_butt=(1000 4200)
 thermal_command=(5900 1860)
-sea_command=(6100 4260)
 hvc_butt=(1200 6200)
 hvc_command=(7800 6060)
 darker=(9920 6120)
