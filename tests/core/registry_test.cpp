@@ -12,7 +12,7 @@ TEST(Registry, ValuesAreReadByTheirType) {
         EXPECT_EQ(GetKeyValue(registry, local_machine, "key", "name", text), value.has_value());
         return text;
     };
-    EXPECT_EQ(text_of({{string_value, std::string("C:\\info.exe", 12)}}), "C:\\info.exe");
+    EXPECT_EQ(text_of({{string_value, std::string("C:\\info.exe") + '\0'}}), "C:\\info.exe");
     EXPECT_EQ(text_of({{string_value, "no terminator"}}), "no terminator");
     EXPECT_EQ(text_of({{number_value, "\x0A\x1B\xFF\x01"}}), "&h1FF1BA");
     EXPECT_EQ(text_of({{3, "bytes"}}), "as it was");
