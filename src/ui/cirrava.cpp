@@ -31,13 +31,19 @@ Cirrava::Cirrava(Dialogs dialogs) : dialogs_(std::move(dialogs)) {
     QAccessible::installFactory(accessible_window); // before anything asks for the window's
     lay_out(controls_, *this);
     start_up();
-    fit_captions(*this);
     connect_scales();
     connect_colour();
     connect_files();
     connect_windows();
     connect_history();
     connect_keys();
+}
+
+// The captions while the screen makes the window: they need the fonts, which take their time.
+void Cirrava::setVisible(bool visible) {
+    QWidget::setVisible(visible);
+    if (visible)
+        fit_captions(*this);
 }
 
 void Cirrava::start_up() {

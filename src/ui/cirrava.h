@@ -15,6 +15,7 @@ class Cirrava : public QWidget {
 public:
     Cirrava() : Cirrava(qt_dialogs(*this)) {}
     explicit Cirrava(Dialogs dialogs);
+    void setVisible(bool visible) override;
 
 private:
     void start_up();
