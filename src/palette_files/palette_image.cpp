@@ -42,11 +42,14 @@ void append_hvc_rows(Bytes& bytes, std::span<const Colour> cells, int from, int 
     bytes.resize(bytes.size() + static_cast<std::size_t>(size));
     auto destination = bytes.end() - size;
     for (int row = from; row >= to; --row) {
-        // In 16 bits, which hold every sum, compilers take many bytes at once.
-        const auto levels = static_cast<std::int16_t>(own_colours_row - row);
-        destination = std::transform(own.begin(), own.end(), destination, [levels](auto value) {
-            const auto sum = static_cast<std::int16_t>(value + levels);
-            return static_cast<std::uint8_t>(std::clamp<std::int16_t>(sum, 0, 255));
+        const int levels = own_colours_row - row;
+        const auto lighter = static_cast<std::uint8_t>(std::max(levels, 0));
+        const auto darker = static_cast<std::uint8_t>(std::max(-levels, 0));
+        // Nothing here leaves 8 bits, so that compilers take many bytes at once.
+        destination = std::transform(own.begin(), own.end(), destination, [=](std::uint8_t value) {
+            const auto room = static_cast<std::uint8_t>(255 - value);
+            return static_cast<std::uint8_t>(value + std::min(lighter, room) -
+                                             std::min(darker, value));
         });
     }
 }
