@@ -43,13 +43,11 @@ void append_hvc_rows(Bytes& bytes, std::span<const Colour> cells, int from, int 
     auto destination = bytes.end() - size;
     for (int row = from; row >= to; --row) {
         const int levels = own_colours_row - row;
-        const auto lighter = static_cast<std::uint8_t>(std::max(levels, 0));
-        const auto darker = static_cast<std::uint8_t>(std::max(-levels, 0));
-        // Nothing here leaves 8 bits, so that compilers take many bytes at once.
+        // Clamped to what stays a byte with `levels` added: in 8 bits compilers take many at once.
+        const auto lowest = static_cast<std::uint8_t>(std::max(0, -levels));
+        const auto highest = static_cast<std::uint8_t>(std::min(255, 255 - levels));
         destination = std::transform(own.begin(), own.end(), destination, [=](std::uint8_t value) {
-            const auto room = static_cast<std::uint8_t>(255 - value);
-            return static_cast<std::uint8_t>(value + std::min(lighter, room) -
-                                             std::min(darker, value));
+            return static_cast<std::uint8_t>(std::clamp(value, lowest, highest) + levels);
         });
     }
 }
