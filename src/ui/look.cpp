@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QImageReader>
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyleOptionComplex>
 
 namespace cirrava {
 
@@ -42,6 +44,16 @@ public:
         default:
             return QProxyStyle::styleHint(hint, option, widget, data);
         }
+    }
+
+    // With a clip of the painter's own, translucent lines are drawn at once. Without one, Qt draws
+    // them pixel by pixel in threads that it starts for them, which delays the first picture.
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override {
+        painter->save();
+        painter->setClipRect(option->rect, Qt::IntersectClip);
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        painter->restore();
     }
 };
 
