@@ -19,9 +19,9 @@ load_palette() {
     in_window "Cirrava PAL"
 }
 
-# start [VARIABLE=VALUE...]: opens the window and loads the three palettes.
+# Opens the window and loads the three palettes.
 start() {
-    env "$@" "$program" &
+    "$program" &
     program_id=$!
     in_window "Cirrava PAL"
     window=$(xdotool getactivewindow)
@@ -36,22 +36,6 @@ start() {
     hvc_cell 44 click
     hvc_cell 44 click 3
     click "${apply[@]}"
-}
-
-mark_range() {
-    thermal_cell 220 click
-    thermal_cell 259 click 3
-}
-
-apply_red() {
-    click "${preset_9[@]}"
-    click "${apply[@]}"
-    thermal_cell 259 see ff0000
-}
-
-leave() {
-    click "${quit[@]}"
-    wait "$program_id"
 }
 
 # take NAME LEFT TOP WIDTH HEIGHT: that part of the window, in twips, and what lies over it, with the
@@ -77,12 +61,14 @@ palette 100 256 '#e0e0f0' '#a0b8e8' '#5088d0' '#40a880' '#60a040' '#b8a050' '#c8
 
 open_screen 2048x1400
 start
-mark_range
+thermal_cell 220 click
+thermal_cell 259 click 3
 take step-2-range 0 1440 12540 2520
 click "${preset_9[@]}"
 see "${swatch[@]}" ff0000
 take step-3-colour 0 7110 14415 1560
-apply_red
+click "${apply[@]}"
+thermal_cell 259 see ff0000
 take main-window 0 0 14415 9405
 click "${thermal_command[@]}"
 choose_file "Create Thermal" "$folder/my palette.bmp"
@@ -98,12 +84,6 @@ click "${darker[@]}"
 hvc_cell 70 see fa0000
 take step-5-hvc 0 5640 14415 1260
 take step-5-preview 12500 1440 1915 5040
-leave
-
-scale_factor=2
-start QT_SCALE_FACTOR=2
-mark_range
-apply_red
-take main-window-at-scale-2 0 0 14415 9405
-leave
+click "${quit[@]}"
+wait "$program_id"
 rm -r "$(realpath "$folder")" "$folder"
