@@ -132,7 +132,7 @@ void Cirrava::connect_keys() {
         auto* const shortcut = new QShortcut(keys, this);
         shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, this, [this, &buttons = buttons] {
-            for (Button CirravaControls::*const button : buttons)
+            for (const tables::Member<Button> button : buttons)
                 if (button != nullptr)
                     (controls_.*button).click(); // a disabled one does nothing
         });

@@ -8,6 +8,7 @@
 namespace cirrava::tables {
 
 using C = CirravaControls;
+template <class Control> using Member = Control C::*;
 
 inline constexpr QRgb black = qRgb(0, 0, 0);
 inline constexpr QRgb red = qRgb(255, 0, 0);
@@ -20,7 +21,7 @@ inline constexpr Look standard{};
 inline constexpr Look window_button{.font = {.points = 13.5}};
 
 template <class Control> struct Row {
-    Control C::*control;
+    Member<Control> control;
     const char* name;
     const char* caption; // of a control without one: what a screen reader says
     TwipRect rect;
@@ -174,7 +175,7 @@ inline constexpr Row<PictureBox> picture_boxes[]{
 // Each presses those of its buttons that are enabled.
 struct KeyRow {
     QKeyCombination keys;
-    std::array<Button C::*, 3> buttons;
+    std::array<Member<Button>, 3> buttons;
 };
 
 inline constexpr KeyRow keys[]{
@@ -189,7 +190,7 @@ inline constexpr KeyRow keys[]{
 };
 
 struct ScaleRow {
-    CellArray C::*control;
+    Member<CellArray> control;
     const char* name;
     const char* spoken;
     int top; // of the first row, in twips
