@@ -8,7 +8,7 @@ namespace cirrava {
 TEST(Registry, ValuesAreReadByTheirType) {
     const auto text_of = [](const std::optional<RegistryValue>& value) {
         std::string text = "as it was";
-        const auto registry = [&value](auto...) { return value; };
+        const auto registry = [&value](const auto&...) { return value; };
         EXPECT_EQ(GetKeyValue(registry, local_machine, "key", "name", text), value.has_value());
         return text;
     };
@@ -20,10 +20,10 @@ TEST(Registry, ValuesAreReadByTheirType) {
 }
 
 TEST(Registry, NamesTheProgramOrTheFolderThatHoldsIt) {
-    std::string name = (std::filesystem::temp_directory_path() / "cirrava-XXXXXX").string();
-    const std::string folder = mkdtemp(name.data());
+    std::string folder = (std::filesystem::temp_directory_path() / "cirrava-XXXXXX").string();
+    ASSERT_NE(mkdtemp(folder.data()), nullptr);
     std::string program;
-    const auto registry = [&](auto, const std::string& key, auto) {
+    const auto registry = [&](auto, const std::string& key, const auto&) {
         const std::string& value = key == folder_key ? folder : program;
         return value.empty() ? std::nullopt : std::optional(RegistryValue{string_value, value});
     };
