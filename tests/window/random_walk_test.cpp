@@ -204,7 +204,7 @@ TEST_F(RandomWalk, AgreesWithThePlainModelAfterEveryEvent) {
     const unsigned seed = qEnvironmentVariableIsSet("CIRRAVA_WALK_SEED")
                               ? qgetenv("CIRRAVA_WALK_SEED").toUInt()
                               : std::random_device()();
-    std::cout << "CIRRAVA_WALK_SEED=" << seed << std::endl;
+    std::cout << "CIRRAVA_WALK_SEED=" << seed << '\n' << std::flush;
     random.seed(seed);
     for (int number = 0; number < 3'000; ++number) {
         step();
