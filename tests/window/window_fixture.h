@@ -46,7 +46,7 @@ struct User {
 
 // Does `action` in the next modal window of type `Dialog`, as soon as it has the keyboard, and
 // closes the window where the action has not.
-template <class Dialog> void in_next(std::function<void(Dialog&)> action) {
+template <class Dialog> void in_next(const std::function<void(Dialog&)>& action) {
     QTimer::singleShot(0, [action] {
         auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
         if (dialog == nullptr)
