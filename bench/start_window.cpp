@@ -57,7 +57,7 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     WINDOW window;
     EndAfterFirstFrame end;
-    window.installEventFilter(&end);
     window.show();
+    window.installEventFilter(&end); // what is painted before is not on the screen
     return QApplication::exec();
 }

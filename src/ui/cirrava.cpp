@@ -39,7 +39,8 @@ Cirrava::Cirrava(Dialogs dialogs) : dialogs_(std::move(dialogs)) {
     connect_keys();
 }
 
-// The captions while the screen makes the window: they need the fonts, which take their time.
+// Fits the captions while the window manager is busy with the window: the first measuring reads the
+// fonts, which takes as long.
 void Cirrava::setVisible(bool visible) {
     QWidget::setVisible(visible);
     if (visible)
