@@ -54,7 +54,7 @@ void measure_palette() {
         ++i;
         return RGB(2 * i, 255 - i, i);
     });
-    const Bytes image = hvc_image(cells, cells);
+    const Bytes image = hvc_image(cells);
     volatile std::uint8_t seen = 0; // a byte of what is made, or the compiler would not make it
     const auto fwrite_all = [&] {
         std::FILE* const file = std::fopen("bench.bmp", "r+b");
@@ -70,7 +70,7 @@ void measure_palette() {
     write_all(); // fwrite_all makes no file
     measure({
         {"copy_image", [&] { return time(50, [&] { seen = Bytes(image).front(); }); }},
-        {"build_image", [&] { return time(50, [&] { seen = hvc_image(cells, cells).front(); }); }},
+        {"build_image", [&] { return time(50, [&] { seen = hvc_image(cells).front(); }); }},
         {"fwrite_file", [&] { return time(20, fwrite_all); }},
         {"write_file", [&] { return time(20, write_all); }},
     });
@@ -108,21 +108,24 @@ void measure_window() {
         if (repaints.count != rounds)
             qFatal("not every step was painted once");
     };
-    const auto mark_all = [](CellArray& cells, int count) {
-        const auto middle = [&](int cell) { return cells.cell_box(cell).topLeft() + QPoint(3, 5); };
-        QTest::mouseClick(&cells, Qt::LeftButton, {}, middle(0));
-        QTest::mouseClick(&cells, Qt::RightButton, {}, middle(count - 1));
+    const auto mark_all = [&window](CellArray& cells) {
+        const auto click = [&](int cell, Qt::MouseButton button) {
+            const QPoint point = cells.cell_box(cell).topLeft() + QPoint(3, 5);
+            QTest::mouseClick(window.windowHandle(), button, {}, cells.pos() + point);
+        };
+        click(0, Qt::LeftButton);
+        click(cell_count(cells.kind()) - 1, Qt::RightButton);
     };
 
     auto& thermal = *window.findChild<CellArray*>("thermal_char");
-    auto& red = *window.findChild<NumberBar*>("HScroll1");
+    auto& red = *window.findChild<Slider*>("HScroll1");
     auto& apply = *window.findChild<Button*>("Command2");
-    mark_all(thermal, cell_count(ScaleKind::thermal));
+    mark_all(thermal);
     measure_one(
         "apply", thermal, [&] { red.setValue((red.value() + 1) % 256); }, [&] { apply.click(); });
 
-    auto& brightness = *window.findChild<NumberBar*>("HScroll4");
-    mark_all(*window.findChild<CellArray*>("Label3"), cell_count(ScaleKind::hvc));
+    auto& brightness = *window.findChild<Slider*>("HScroll4");
+    mark_all(*window.findChild<CellArray*>("Label3"));
     measure_one(
         "brightness_step", *window.findChild<PictureBox*>("Picture1"), [] {},
         [&, darker = false]() mutable { brightness.setValue((darker = !darker) ? 4 : 6); });

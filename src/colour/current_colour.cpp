@@ -4,26 +4,34 @@
 
 namespace cirrava {
 
+CurrentColour::CurrentColour(Swatch& sample, const ColourChannels& channels)
+    : sample_(sample), channels_(channels) {
+    for (const auto& [slider, readout] : channels)
+        QObject::connect(&slider, &Slider::valueChanged, &slider, [this] { follow_sliders(); });
+    follow_sliders();
+}
+
 Colour CurrentColour::colour() const {
-    return from_qt(controls_.sample.colour());
+    return from_qt(sample_.colour());
 }
 
 void CurrentColour::take(Colour color) {
-    controls_.sample.set_colour(to_qt(color));
+    sample_.set_colour(to_qt(color));
     Color_to_RGB(color);
 }
 
 void CurrentColour::Color_to_RGB(Colour color) {
-    const ChannelBytes bytes = Data_byte_calc(color);
-    controls_.HScroll1.setValue(bytes.red_byte);
-    controls_.HScroll2.setValue(bytes.green_byte);
-    controls_.HScroll3.setValue(bytes.blue_byte);
+    const auto [red, green, blue] = Data_byte_calc(color);
+    channels_[0].slider.setValue(red);
+    channels_[1].slider.setValue(green);
+    channels_[2].slider.setValue(blue);
 }
 
-void CurrentColour::slider_moved(const ColourControls::Channel& channel) {
-    controls_.sample.set_colour(
-        QColor(controls_.HScroll1.value(), controls_.HScroll2.value(), controls_.HScroll3.value()));
-    channel.readout.setText(QString::number(channel.slider.value()));
+void CurrentColour::follow_sliders() {
+    const auto& [red, green, blue] = channels_;
+    sample_.set_colour(QColor(red.slider.value(), green.slider.value(), blue.slider.value()));
+    for (const auto& [slider, readout] : channels_)
+        readout.setText(QString::number(slider.value()));
 }
 
 } // namespace cirrava

@@ -1,29 +1,38 @@
 #pragma once
 
-#include "colour/colour_controls.h"
 #include "scale_editor/colour.h"
+#include "widgets/slider.h"
+#include "widgets/swatch.h"
+
+#include <QLabel>
+#include <array>
 
 namespace cirrava {
+
+struct ColourChannel {
+    Slider& slider;
+    QLabel& readout;
+};
+
+using ColourChannels = std::array<ColourChannel, 3>; // red, green, blue
 
 // The colour that is applied next. It is the fill of the swatch; the three sliders and their
 // read-outs mirror it.
 class CurrentColour {
 public:
-    explicit CurrentColour(ColourControls& controls) : controls_(controls) {}
+    CurrentColour(Swatch& sample, const ColourChannels& channels);
 
     Colour colour() const;
 
     // Makes `color` the current colour, whatever the sliders stood at.
     void take(Colour color);
 
-    // The slider of `channel` has moved: the swatch takes the colour of all three, and the
-    // channel's own read-out its position.
-    void slider_moved(const ColourControls::Channel& channel);
-
 private:
     void Color_to_RGB(Colour color);
+    void follow_sliders();
 
-    ColourControls& controls_;
+    Swatch& sample_;
+    const ColourChannels& channels_;
 };
 
 } // namespace cirrava

@@ -4,7 +4,7 @@
 
 namespace cirrava {
 
-void pick_colour(CommonDialog& cdlopen, const Dialogs& dialogs, CurrentColour& current_colour) {
+void pick_colour(CommonDialog& cdlopen, CurrentColour& current_colour) {
     try {
         cdlopen.CancelError = true;
         // From black, the dialog's spectrum shows no colour.
@@ -13,8 +13,7 @@ void pick_colour(CommonDialog& cdlopen, const Dialogs& dialogs, CurrentColour& c
         current_colour.take(from_qt(cdlopen.Color));
     } catch (const Failure& failure) {
         if (failure.number != FailureNumber::cancelled)
-            dialogs.tell(
-                failure_message("Error# ", failure, " A problem occured in color picking"));
+            cdlopen.tell("Error# ", failure, " A problem occured in color picking");
     }
 }
 

@@ -7,6 +7,6 @@ namespace cirrava {
 
 // Takes the current colour from the colour dialog, which opens at it. A cancel changes nothing and
 // says nothing.
-void pick_colour(CommonDialog& cdlopen, const Dialogs& dialogs, CurrentColour& current_colour);
+void pick_colour(CommonDialog& cdlopen, CurrentColour& current_colour);
 
 } // namespace cirrava

@@ -1,37 +1,41 @@
 #include "palette_files/hvc_palette.h"
 
 #include "palette_files/palette_image.h"
+#include "palette_files/save_palette.h"
+#include "platform/binary_file.h"
+#include "platform/failure.h"
+
+#include <QImage>
+#include <algorithm>
+#include <span>
 
 namespace cirrava {
 
 namespace {
 
-// In the current directory.
-constexpr const char* preview_file = "~~temphvc.bmp";
-
-// Values of `fromwhere`; every other is a number of slider steps, above 0 darker.
-constexpr int preview_only = 0;
-constexpr int final_file = 25;
+constexpr char preview_file[] = "~~temphvc.bmp"; // in the current directory
 
 constexpr int slider_rest = 5;
 
 } // namespace
 
-HvcPalette::HvcPalette(CommonDialog& cdlopen, const Dialogs& dialogs, const EditorState& state,
-                       ScaleControls& scales, PictureBox& Picture1)
-    : cdlopen_(cdlopen), dialogs_(dialogs), state_(state), Label3_(scales.Label3),
-      HScroll4_(scales.HScroll4), Picture1_(Picture1) {
-    HScroll4_.setTracking(false); // a drag counts once, at its end
+HvcPalette::HvcPalette(CommonDialog& cdlopen, const Selection& selection, CellArray& Label3,
+                       Slider& HScroll4, PictureBox& Picture1)
+    : cdlopen_(cdlopen), selection_(selection), Label3_(Label3), HScroll4_(HScroll4),
+      Picture1_(Picture1) {
+    HScroll4_.setValue(slider_rest);
+    HScroll4_.setTracking(false); // a drag counts once, when the mouse button is released
 }
 
 void HvcPalette::generate() {
-    if (create_hvc_file(final_file))
-        show_picture();
+    if (save_palette(cdlopen_, hvc_image(Label3_.colours()),
+                     {"hvc.bmp", "Create HVC Palette", "Error # "}))
+        show_preview();
 }
 
 void HvcPalette::refresh_preview() {
-    create_hvc_file(preview_only);
-    show_picture();
+    create_hvc_file(0);
+    show_preview();
 }
 
 void HvcPalette::refresh_preview_silently() {
@@ -40,13 +44,15 @@ void HvcPalette::refresh_preview_silently() {
     } catch (const Failure&) {
         // The next preview that the user asks for will tell.
     }
-    show_picture();
+    show_preview();
 }
 
 void HvcPalette::brightness_changed() {
     const int steps = slider_rest - HScroll4_.value();
     if (steps == 0)
         return;
+    if (!HScroll4_.isEnabled()) // another program has moved it
+        return HScroll4_.setValue(slider_rest);
     const bool had_focus = HScroll4_.hasFocus(); // which a disabled control loses
     HScroll4_.setEnabled(false);
     create_hvc_file(steps);
@@ -57,47 +63,36 @@ void HvcPalette::brightness_changed() {
         HScroll4_.setFocus();
 }
 
-bool HvcPalette::create_hvc_file(int fromwhere) {
+// Writes the preview after a shift by so many slider steps, above 0 darker.
+void HvcPalette::create_hvc_file(int fromwhere) {
     try {
-        if (fromwhere == final_file)
-            return write_final_file();
         write_preview_file(fromwhere);
-        return true;
     } catch (const Failure& failure) {
-        tell_failure(dialogs_, "Error # ", failure, " A problem occured during file creation");
-        return false;
+        cdlopen_.tell("Error # ", failure, " A problem occured during file creation");
     }
 }
 
-bool HvcPalette::write_final_file() {
-    const auto out_path =
-        choose_output(cdlopen_, dialogs_, {.file_name = "hvc.bmp", .title = "Create HVC Palette"});
-    if (out_path)
-        write_palette(*out_path, hvc_image(Label3_.colours(), Label3_.colours()));
-    return out_path.has_value();
-}
-
 // The selected cells change once the headers are written, even if the pixels cannot be.
-void HvcPalette::write_preview_file(int steps) {
-    const std::vector<Colour> before(Label3_.colours().begin(), Label3_.colours().end());
-    const auto after = shift_brightness(before, {.levels = brightness_levels(steps),
-                                                 .first = state_.range_start,
-                                                 .last = state_.range_end});
-    // Darker cells show from row 127 up, lighter ones from the next image on.
-    const Bytes image = hvc_image(before, steps > 0 ? after : before);
-    const auto headers = std::span(image).first<headers_size>();
-    const auto pixels = std::span(image).subspan<headers_size>();
+void HvcPalette::write_preview_file(int fromwhere) {
+    const auto before = Label3_.colours();
+    const auto after =
+        shift_brightness(before, brightness_levels(fromwhere), selection_.brightness_range());
+    Bytes image = hvc_image(before);
+    if (fromwhere > 0) { // darker cells show from row 127 up, lighter ones from the next image on
+        const Bytes darker = hvc_image(after);
+        std::copy(darker.begin() + hvc_row_127, darker.end(), image.begin() + hvc_row_127);
+    }
 
     BinaryFile file(preview_file, FileAccess::read_write);
-    file.write(headers);
+    file.write(std::span(image).first(headers_size));
     Label3_.set_colours(after);
-    file.write(pixels);
+    file.write(std::span(image).subspan(headers_size));
     file.close();
 }
 
-// The cells, as a file that is written from them holds them.
-void HvcPalette::show_picture() {
-    const Bytes image = hvc_image(Label3_.colours(), Label3_.colours());
+// Shows the cells as a file would hold them.
+void HvcPalette::show_preview() {
+    const Bytes image = hvc_image(Label3_.colours());
     Picture1_.show_image(QImage::fromData(image.data(), static_cast<int>(image.size()), "BMP"));
 }
 

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "palette_files/file_actions.h"
-#include "scale_editor/editor_state.h"
-#include "scale_editor/scale_controls.h"
+#include "scale_editor/cell_array.h"
+#include "scale_editor/selection.h"
+#include "widgets/common_dialog.h"
 #include "widgets/picture_box.h"
+#include "widgets/slider.h"
 
 namespace cirrava {
 
@@ -11,34 +12,32 @@ namespace cirrava {
 // the selected cells.
 class HvcPalette {
 public:
-    HvcPalette(CommonDialog& cdlopen, const Dialogs& dialogs, const EditorState& state,
-               ScaleControls& scales, PictureBox& Picture1);
+    HvcPalette(CommonDialog& cdlopen, const Selection& selection, CellArray& Label3,
+               Slider& HScroll4, PictureBox& Picture1);
 
     // Writes the palette to a file that the user names, and shows it once it is written.
     void generate();
 
-    // Writes the preview file anew from the cells, and shows them as a picture in every case.
+    // Writes the preview file anew from the cells, and shows them even when that fails.
     void refresh_preview();
 
-    // The same, but a preview file that cannot be written is not told: it is not what the user
+    // The same, but says nothing of a preview file that cannot be written: it is not what the user
     // asked for.
     void refresh_preview_silently();
 
-    // The brightness slider was moved: shifts the selected cells by as much, refreshes the preview
-    // and puts the slider back to rest.
+    // Follows a move of the brightness slider: shifts the selected cells by as much, refreshes the
+    // preview and puts the slider back to rest.
     void brightness_changed();
 
 private:
-    bool create_hvc_file(int fromwhere); // whether it was written
-    bool write_final_file();
-    void write_preview_file(int steps);
-    void show_picture();
+    void create_hvc_file(int fromwhere);
+    void write_preview_file(int fromwhere);
+    void show_preview();
 
     CommonDialog& cdlopen_;
-    const Dialogs& dialogs_;
-    const EditorState& state_;
+    const Selection& selection_;
     CellArray& Label3_;
-    NumberBar& HScroll4_;
+    Slider& HScroll4_;
     PictureBox& Picture1_;
 };
 

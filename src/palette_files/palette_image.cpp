@@ -16,49 +16,32 @@ constexpr int own_colours_row = 127; // of the HVC image, counted from the top
 // rows below the cells' own colours: they come back two levels darker than they were written.
 constexpr std::size_t stored_cells_row = 126;
 
-Bytes pixels_of(std::span<const Colour> cells) {
+std::uint8_t shifted(int channel, int levels) {
+    return static_cast<std::uint8_t>(std::clamp(channel + levels, 0, 255));
+}
+
+// The headers of an image of so many rows, with room for all that follows.
+Bytes headers_of(std::span<const Colour> cells, int rows) {
     Bytes bytes;
-    bytes.reserve(cells.size() * pixel_size);
-    for (const Colour color : cells) {
-        const ChannelBytes channels = Data_byte_calc(color);
-        bytes.push_back(channels.blue_byte);
-        bytes.push_back(channels.green_byte);
-        bytes.push_back(channels.red_byte);
-    }
+    bytes.reserve(headers_size + (cells.size() + 1) * pixel_size * static_cast<std::size_t>(rows));
+    append_headers(
+        bytes, {.info = {.biWidth = static_cast<std::int32_t>(cells.size()), .biHeight = rows}});
     return bytes;
 }
 
-// `color` with `levels` added to each channel, which stops at 0 and at 255.
-Colour shifted(Colour color, int levels) {
-    const ChannelBytes channels = Data_byte_calc(color);
-    const auto shift = [levels](int value) { return std::clamp(value + levels, 0, 255); };
-    return RGB(shift(channels.red_byte), shift(channels.green_byte), shift(channels.blue_byte));
-}
-
-// Rows `from` down to `to`, in the order of the file.
-void append_hvc_rows(Bytes& bytes, std::span<const Colour> cells, int from, int to) {
-    const Bytes own = pixels_of(cells);
-    const std::ptrdiff_t size = std::ssize(own) * (from - to + 1);
-    bytes.resize(bytes.size() + static_cast<std::size_t>(size));
-    auto destination = bytes.end() - size;
-    for (int row = from; row >= to; --row) {
-        const int levels = own_colours_row - row;
-        // Clamped to what stays a byte with `levels` added: in 8 bits compilers take many at once.
-        const auto lowest = static_cast<std::uint8_t>(std::max(0, -levels));
-        const auto highest = static_cast<std::uint8_t>(std::min(255, 255 - levels));
-        destination = std::transform(own.begin(), own.end(), destination, [=](std::uint8_t value) {
-            return static_cast<std::uint8_t>(std::clamp(value, lowest, highest) + levels);
-        });
+// Appends a row of the image in which each channel of the cells is `levels` higher.
+void append_row(Bytes& bytes, std::span<const Colour> cells, int levels = 0) {
+    for (const Colour color : cells) {
+        const auto [red, green, blue] = Data_byte_calc(color);
+        for (const std::uint8_t channel : {blue, green, red})
+            bytes.push_back(shifted(channel, levels));
     }
 }
 
 std::optional<ScaleKind> kind_of_size(std::int32_t biWidth, std::int32_t biHeight) {
-    if (biHeight == 1 && biWidth == cell_count(ScaleKind::thermal))
-        return ScaleKind::thermal;
-    if (biHeight == 1 && biWidth == cell_count(ScaleKind::sea))
-        return ScaleKind::sea;
-    if (biHeight == hvc_rows && biWidth == cell_count(ScaleKind::hvc))
-        return ScaleKind::hvc;
+    for (const ScaleKind kind : {ScaleKind::thermal, ScaleKind::sea, ScaleKind::hvc})
+        if (biWidth == cell_count(kind) && biHeight == (kind == ScaleKind::hvc ? hvc_rows : 1))
+            return kind;
     return std::nullopt;
 }
 
@@ -80,12 +63,10 @@ std::vector<Colour> colours_of(std::span<const std::uint8_t> pixels) {
 } // namespace
 
 Bytes row_image(std::span<const Colour> cells) {
-    Bytes bytes;
-    append_headers(bytes,
-                   {.info = {.biWidth = static_cast<std::int32_t>(cells.size()), .biHeight = 1}});
-    const Bytes pixels = pixels_of(cells);
-    bytes.insert(bytes.end(), pixels.begin(), pixels.end());
-    bytes.resize(headers_size + (pixels.size() + 3) / 4 * 4);
+    Bytes bytes = headers_of(cells, 1);
+    append_row(bytes, cells);
+    while ((bytes.size() - headers_size) % 4 != 0)
+        bytes.push_back(0);
     return bytes;
 }
 
@@ -95,22 +76,21 @@ int brightness_levels(int steps) {
     return steps > 0 ? -4 * steps - 1 : -4 * steps + 1;
 }
 
-std::vector<Colour> shift_brightness(std::vector<Colour> cells, const BrightnessShift& shift) {
-    const int last = std::min(shift.last, static_cast<int>(cells.size()) - 1);
-    for (int cell = std::max(shift.first, 0); cell <= last; ++cell) {
-        Colour& color = cells[static_cast<std::size_t>(cell)];
-        color = shifted(color, shift.levels);
+std::vector<Colour> shift_brightness(std::span<const Colour> cells, int levels,
+                                     const Range& range) {
+    std::vector<Colour> colours(cells.begin(), cells.end());
+    for (int cell = range.first; cell <= range.last; ++cell) {
+        Colour& color = colours.at(static_cast<std::size_t>(cell));
+        const auto [red, green, blue] = Data_byte_calc(color);
+        color = RGB(shifted(red, levels), shifted(green, levels), shifted(blue, levels));
     }
-    return cells;
+    return colours;
 }
 
-Bytes hvc_image(std::span<const Colour> below, std::span<const Colour> above) {
-    Bytes bytes;
-    bytes.reserve(headers_size + below.size() * pixel_size * hvc_rows);
-    append_headers(bytes, {.info = {.biWidth = static_cast<std::int32_t>(below.size()),
-                                    .biHeight = hvc_rows}});
-    append_hvc_rows(bytes, below, hvc_rows - 1, own_colours_row + 1);
-    append_hvc_rows(bytes, above, own_colours_row, 0);
+Bytes hvc_image(std::span<const Colour> cells) {
+    Bytes bytes = headers_of(cells, hvc_rows);
+    for (int row = hvc_rows - 1; row >= 0; --row)
+        append_row(bytes, cells, own_colours_row - row);
     return bytes;
 }
 

@@ -3,6 +3,7 @@
 #include "palette_files/bmp_headers.h"
 #include "platform/binary_file.h"
 #include "scale_editor/colour.h"
+#include "scale_editor/range.h"
 #include "scale_editor/scale.h"
 
 #include <optional>
@@ -22,23 +23,17 @@ Bytes row_image(std::span<const Colour> cells);
 // darken, by 5, 9, 13, 17 and 21 levels for 1 to 5 steps; steps below 0 lighten by as much.
 int brightness_levels(int steps);
 
-// A change of brightness by so many levels per channel, below 0 darker, of the cells `first` to
-// `last`; 0 levels, or a range that holds no cell, changes nothing.
-struct BrightnessShift {
-    int levels = 0;
-    int first = 0;
-    int last = 0;
-};
-
-// `cells` with that change.
-std::vector<Colour> shift_brightness(std::vector<Colour> cells, const BrightnessShift& shift);
+// `cells` with so many levels added to each channel of those in `range`, stopping at 0 and at 255.
+std::vector<Colour> shift_brightness(std::span<const Colour> cells, int levels, const Range& range);
 
 inline constexpr int hvc_rows = 256;
 
 // The image of the HVC palette: one column per cell, 256 rows. Row 127 from the top has the cells'
 // own colours; each row below is one level darker per channel and each above one level lighter,
-// stopping at 0 and at 255. The rows below row 127 are made from `below`, the others from `above`.
-Bytes hvc_image(std::span<const Colour> below, std::span<const Colour> above);
+// stopping at 0 and at 255.
+Bytes hvc_image(std::span<const Colour> cells);
+
+inline constexpr int hvc_row_127 = 54 + 128 * 300; // where its bytes start in the image
 
 // Where the headers of a palette file say that its colours are.
 struct PaletteLayout {

@@ -53,11 +53,6 @@ std::error_code last_error() {
     return {errno, std::generic_category()};
 }
 
-bool is_folder(const std::filesystem::path& path) {
-    std::error_code unanswered;
-    return std::filesystem::is_directory(path.empty() ? "." : path, unanswered);
-}
-
 } // namespace
 
 BinaryFile::BinaryFile(const std::filesystem::path& path, FileAccess access) : path_(path) {
@@ -74,10 +69,11 @@ BinaryFile::BinaryFile(const std::filesystem::path& path, FileAccess access) : p
         return;
     }
     const std::error_code error = last_error();
-    if (access == FileAccess::read && error == std::errc::no_such_file_or_directory &&
-        is_folder(path.parent_path()))
-        throw Failure{file_not_found};
-    throw Failure{failure_of(error)};
+    const auto folder = path.has_parent_path() ? path.parent_path() : ".";
+    const bool only_file_missing = error == std::errc::no_such_file_or_directory &&
+                                   std::filesystem::is_directory(folder, unanswered);
+    throw Failure{access == FileAccess::read && only_file_missing ? file_not_found
+                                                                  : failure_of(error)};
 }
 
 Bytes BinaryFile::read(std::size_t count) {

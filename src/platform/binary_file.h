@@ -29,12 +29,12 @@ public:
     // Writes all of `bytes` at the current offset, without a buffer: what does not fit fails here.
     void write(std::span<const std::uint8_t> bytes);
 
-    // Has all that was written, and the file's name, put on the medium, where it outlasts a power
+    // Flushes all that was written, and the file's name, to the medium, so that it survives a power
     // failure.
     void sync();
 
-    // Ends the writing. On some systems, such as network drives, a failure may show only here:
-    // without this call a file is closed too, but nobody learns of it.
+    // Ends the writing. On network drives, for instance, a failure may show only here. Without this
+    // call the file is closed too, but nobody learns of such a failure.
     void close();
 
 private:
@@ -45,8 +45,8 @@ private:
     std::unique_ptr<std::FILE, Closer> stream_;
 };
 
-// Whether `path` names a file that is neither a folder or device nor hidden. Throws a Failure when
-// the system cannot tell.
+// Whether `path` names a regular file that is not hidden. Throws a Failure when the system cannot
+// tell.
 bool plain_file_exists(const std::filesystem::path& path);
 
 } // namespace cirrava

@@ -13,20 +13,23 @@ enum class FileAccess {
     read_write // created when missing, never shortened
 };
 
-// Makes a write past the process's file-size limit fail like any other, where the system would end
-// the program, and the palette with it. At the start of the program.
+// Makes a write past the process's file-size limit fail like any other write; by default the system
+// would end the program, and the palette with it. To be called when the program starts.
 void let_writes_past_size_limit_fail();
 
 // Opens `path` at its first byte without waiting for anything, not even for the other end of a
 // pipe. Returns null and sets errno on failure.
 std::FILE* open_stream(const std::filesystem::path& path, FileAccess access);
 
-// Has the system put what was written to `stream`, the open file `path`, and flushed, on the
-// medium, with the file's entry in its folder. False, with errno set, on failure.
+// Flushes to the medium what was written to `stream`, which is unbuffered and the open file `path`,
+// together with the file's entry in its folder. Returns false and sets errno on failure.
 bool sync_stream(std::FILE* stream, const std::filesystem::path& path);
 
 // Whether the system's file lists leave `path` out by default.
 bool is_hidden(const std::filesystem::path& path);
+
+// Whether the user may create files in `folder`.
+bool may_write_in(const std::filesystem::path& folder);
 
 // The path that `text` spells in the system's 8-bit encoding.
 std::filesystem::path path_of_system_text(const std::string& text);

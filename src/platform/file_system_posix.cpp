@@ -8,7 +8,7 @@
 namespace cirrava {
 
 void let_writes_past_size_limit_fail() {
-    std::signal(SIGXFSZ, [](int) {}); // handled, not ignored: started programs would ignore it, too
+    std::signal(SIGXFSZ, [](int) {}); // programs that this one starts would inherit an ignored one
 }
 
 std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
@@ -32,8 +32,8 @@ bool sync_stream(std::FILE* stream, const std::filesystem::path& path) {
     const auto folder_path = path.has_parent_path() ? path.parent_path() : ".";
     const int folder = ::open(folder_path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0)
-        return true; // the user may write in folders that cannot be read
-    const bool synced = ::fsync(folder) == 0 || errno == EINVAL; // some have nothing to flush
+        return true; // a user may be allowed to write in a folder but not to read it
+    const bool synced = ::fsync(folder) == 0 || errno == EINVAL; // or has nothing to flush
     const int error = errno;
     ::close(folder);
     errno = error;
@@ -42,6 +42,10 @@ bool sync_stream(std::FILE* stream, const std::filesystem::path& path) {
 
 bool is_hidden(const std::filesystem::path& path) {
     return path.filename().native().starts_with('.');
+}
+
+bool may_write_in(const std::filesystem::path& folder) {
+    return ::access(folder.c_str(), W_OK | X_OK) == 0;
 }
 
 std::filesystem::path path_of_system_text(const std::string& text) {

@@ -10,15 +10,15 @@ namespace cirrava {
 
 namespace {
 
-// As _wopen, but for what is sure to be found again under that path.
+// Works as _wopen but opens only what a file list shows under that path later.
 int open_on_disk(const std::filesystem::path& path, int flags) {
-    // Behind a colon comes the name of a second content of the file, which no file list shows.
+    // A colon introduces the name of a second content of the file, which no file list shows.
     if (path.relative_path().native().find(L':') != std::wstring::npos) {
         errno = EINVAL;
         return -1;
     }
     const int descriptor = _wopen(path.c_str(), flags, _S_IREAD | _S_IWRITE);
-    // Of a path that is too long Windows says only that it does not find it.
+    // Windows says of a path that is too long only that it does not find it.
     if (descriptor < 0 && errno == ENOENT && path.native().size() >= MAX_PATH)
         errno = ENAMETOOLONG;
     // Some names, such as NUL, are devices in every folder.
@@ -50,7 +50,7 @@ std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
     return stream;
 }
 
-// The file's entry goes with it.
+// Windows flushes the file's entry with it.
 bool sync_stream(std::FILE* stream, const std::filesystem::path&) {
     return _commit(_fileno(stream)) == 0;
 }
@@ -59,6 +59,13 @@ bool is_hidden(const std::filesystem::path& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES &&
            (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
+}
+
+// Windows does not tell without an attempt. The file is gone as soon as it is closed.
+bool may_write_in(const std::filesystem::path& folder) {
+    const HANDLE file = CreateFileW((folder / "cirrava-pal.tmp").c_str(), GENERIC_WRITE | DELETE, 0,
+                                    nullptr, CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    return file != INVALID_HANDLE_VALUE && CloseHandle(file) != 0;
 }
 
 std::filesystem::path path_of_system_text(const std::string& text) {

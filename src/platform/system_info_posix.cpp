@@ -5,15 +5,14 @@
 
 namespace cirrava {
 
-// The first of the desktops' programs that is on the search path.
-FoundProgram find_system_info_program() {
-    for (const char* const name : {"hardinfo2", "hardinfo", "kinfocenter", "mate-system-monitor",
-                                   "gnome-system-monitor", "xfce4-taskmanager"}) {
-        const QString path = QStandardPaths::findExecutable(QString::fromLatin1(name));
-        if (!path.isEmpty())
+// Takes the first of the desktops' programs that is on the search path.
+std::filesystem::path find_system_info_program() {
+    for (const QString& name :
+         QStringList{"hardinfo2", "hardinfo", "kinfocenter", "mate-system-monitor",
+                     "gnome-system-monitor", "xfce4-taskmanager"})
+        if (const QString path = QStandardPaths::findExecutable(name); !path.isEmpty())
             return QFileInfo(path).filesystemFilePath();
-    }
-    return std::nullopt;
+    return {};
 }
 
 } // namespace cirrava

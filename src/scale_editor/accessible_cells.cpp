@@ -6,6 +6,7 @@
 
 #include <QAccessibleWidget>
 #include <QPointer>
+#include <vector>
 
 namespace cirrava {
 
@@ -26,7 +27,7 @@ public:
     QAccessible::State state() const override {
         QAccessible::State state;
         state.selectable = true;
-        state.selected = cells_->is_selected(cell_);
+        state.selected = cells_->is_marked(cell_);
         return state;
     }
 
@@ -62,11 +63,11 @@ public:
     QStringList actionNames() const override { return {mark_as_start, mark_as_end, copy_colour}; }
     void doAction(const QString& action) override {
         if (action == mark_as_start)
-            cells_->mark(cell_, RangeEnd::start);
+            emit cells_->marked(cell_, Side::start);
         else if (action == mark_as_end)
-            cells_->mark(cell_, RangeEnd::end);
+            emit cells_->marked(cell_, Side::end);
         else if (action == copy_colour)
-            cells_->copy_colour(cell_);
+            emit cells_->colour_asked(cell_);
     }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 

@@ -8,20 +8,21 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <QtMath>
 #include <algorithm>
+#include <iterator>
 
 namespace cirrava {
 
 namespace {
 
 // In twips.
-constexpr int left_margin = 120;
 constexpr int pitch = 120;
 constexpr int row_pitch = 480;
 constexpr int cell_size = 255;
 constexpr int strip_inset = 15;
-constexpr int underline_top = 255; // from the top of the cell; above the temperatures' letters
-constexpr int underline_height = 30;
+constexpr int line_top = 255; // from the top of the cell; above the temperatures' letters
+constexpr int line_height = 30;
 
 constexpr int cells_per_row = 100;
 
@@ -38,39 +39,46 @@ void CellArray::set_colours(std::span<const Colour> colours) {
     std::copy_n(colours.begin(), count, colours_.begin());
     update();
     tell_screen_readers(QAccessible::DescriptionChanged);
+    emit changed();
 }
 
-void CellArray::underline(const QList<Underline>& runs) {
-    if (runs == underlines_)
+void CellArray::fill(const Range& range, Colour colour) {
+    auto colours = colours_;
+    for (int cell = range.first; cell <= range.last; ++cell)
+        colours[cell] = colour;
+    set_colours(colours);
+}
+
+void CellArray::underline(const QList<Range>& marked, const Range& dotted) {
+    if (marked == marked_ && dotted == dotted_)
         return;
-    underlines_ = runs;
+    marked_ = marked;
+    dotted_ = dotted;
     update();
     tell_screen_readers(QAccessible::SelectionWithin);
 }
 
-bool CellArray::is_selected(int cell) const {
-    return std::any_of(underlines_.begin(), underlines_.end(), [cell](const Underline& run) {
-        return !run.dotted && run.first <= cell && cell <= run.last;
-    });
+bool CellArray::is_marked(int cell) const {
+    return std::ranges::any_of(marked_, [cell](const Range& run) { return run.holds(cell); });
 }
 
-void CellArray::lay_out(int top, int dpi) {
+void CellArray::lay_out(int left, int top, int dpi) {
+    left_ = left;
     top_ = top;
     dpi_ = dpi;
     const int count = cell_count(kind_);
     const int rows = (count - 1) / cells_per_row;
     const int columns = std::min(count, cells_per_row) - 1;
-    setGeometry(to_pixels({left_margin, top, columns * pitch + cell_size,
-                           rows * row_pitch + underline_top + underline_height},
-                          dpi));
+    setGeometry(to_pixels(
+        {left, top, columns * pitch + cell_size, rows * row_pitch + line_top + line_height}, dpi));
 }
 
 QRect CellArray::cell_box(int cell) const {
-    return cell_pixels(cell, {0, 0, cell_size, cell_size});
+    return to_pixels_of(cell, {0, 0, cell_size, cell_size});
 }
 
 QRect CellArray::strip(int cell) const {
-    return cell_pixels(cell, {0, strip_inset, visible_width(cell), cell_size - 2 * strip_inset});
+    return to_pixels_of(cell, {0, strip_inset, visible_width(cell), cell_size - 2 * strip_inset});
 }
 
 int CellArray::visible_width(int cell) const {
@@ -78,15 +86,17 @@ int CellArray::visible_width(int cell) const {
     return last_of_row ? cell_size : pitch;
 }
 
-QRect CellArray::cell_pixels(int cell, const TwipRect& part) const {
-    const int left = left_margin + pitch * (cell % cells_per_row) + part.left;
+QRect CellArray::to_pixels_of(int cell, const TwipRect& part) const {
+    const int left = left_ + pitch * (cell % cells_per_row) + part.left;
     const int top = top_ + row_pitch * (cell / cells_per_row) + part.top;
     return to_pixels({left, top, part.width, part.height}, dpi_).translated(-pos());
 }
 
-int CellArray::cell_at(QPoint point) const {
-    int cell = cell_count(kind_) - 1; // the highest first, since it lies on top
-    while (cell >= 0 && !cell_box(cell).contains(point))
+int CellArray::cell_at(QPointF point) const {
+    // A screen of high density has points between whole pixels; each belongs to the pixel it is in.
+    const QPoint pixel(qFloor(point.x()), qFloor(point.y()));
+    int cell = cell_count(kind_) - 1; // the last first, since it lies over those before it
+    while (cell >= 0 && !cell_box(cell).contains(pixel))
         --cell;
     return cell;
 }
@@ -104,24 +114,25 @@ bool CellArray::event(QEvent* event) {
 }
 
 void CellArray::paintEvent(QPaintEvent* event) {
-    QPainter painter(this); // without antialiasing, edges fall on device pixels at every scale
+    QPainter painter(this); // without antialiasing, edges fall on device pixels
     for (int cell = 0; cell < cell_count(kind_); ++cell) {
         const QRect box = strip(cell);
         if (event->region().intersects(box))
             painter.fillRect(box, to_qt(colour(cell)));
     }
-    for (const Underline& run : underlines_)
-        paint_underline(painter, run);
+    paint_line(painter, dotted_, line_height);
+    for (const Range& run : marked_)
+        paint_line(painter, run, cell_size);
 }
 
-void CellArray::paint_underline(QPainter& painter, const Underline& run) const {
-    for (int cell = run.first; cell <= run.last; ++cell) {
-        const int width = visible_width(cell);
-        const int dash = run.dotted ? underline_height : width;
-        for (int left = 0; left < width; left += 2 * dash)
-            painter.fillRect(cell_pixels(cell, {left, underline_top, dash, underline_height}),
+// A dash as long as a cell makes a full line.
+void CellArray::paint_line(QPainter& painter, const Range& cells, int dash) const {
+    for (int cell = cells.first; cell <= cells.last; ++cell)
+        for (int left = 0; left < visible_width(cell); left += 2 * dash) {
+            const int width = std::min(dash, visible_width(cell) - left);
+            painter.fillRect(to_pixels_of(cell, {left, line_top, width, line_height}),
                              palette().color(QPalette::Highlight));
-    }
+        }
 }
 
 void CellArray::tell_screen_readers(QAccessible::Event what) {
@@ -129,32 +140,35 @@ void CellArray::tell_screen_readers(QAccessible::Event what) {
     QAccessible::updateAccessibility(&event);
 }
 
+// While a button that was pressed over a cell is held, Qt sends the others here too, from wherever
+// they are pressed.
 void CellArray::mousePressEvent(QMouseEvent* event) {
-    pressed_on_cells_.setFlag(event->button(), hit(*event).has_value());
+    pressed_.setFlag(event->button(), pressed_ || cell_under(*event) >= 0);
 }
 
 void CellArray::mouseReleaseEvent(QMouseEvent* event) {
-    const auto released_over = hit(*event);
-    if (released_over && pressed_on_cells_.testFlag(event->button()))
-        released_over->scale->mark(released_over->cell, event->button() == Qt::LeftButton
-                                                            ? RangeEnd::start
-                                                            : RangeEnd::end);
-    pressed_on_cells_.setFlag(event->button(), false);
+    if (pressed_.testFlag(event->button()))
+        emit released(event->scenePosition(),
+                      event->button() == Qt::LeftButton ? Side::start : Side::end);
+    pressed_.setFlag(event->button(), false);
 }
 
 void CellArray::mouseDoubleClickEvent(QMouseEvent* event) {
     mousePressEvent(event);
-    const int cell = cell_at(event->position().toPoint());
+    const int cell = cell_under(*event);
     if (cell >= 0 && event->button() == Qt::LeftButton)
-        copy_colour(cell);
+        emit colour_asked(cell);
 }
 
-std::optional<CellArray::Hit> CellArray::hit(const QMouseEvent& event) const {
-    // While a button is down, its events come here, wherever the pointer has gone.
-    const QPoint in_window = mapToParent(event.position().toPoint());
-    auto* const scale = qobject_cast<CellArray*>(parentWidget()->childAt(in_window));
-    const int cell = scale != nullptr ? scale->cell_at(scale->mapFromParent(in_window)) : -1;
-    return cell >= 0 ? std::optional(Hit{scale, cell}) : std::nullopt;
+// The scene of a widget is its window. Qt rounds the position in the widget itself, on dense
+// screens to the pixel beside the right one.
+int CellArray::cell_under(const QMouseEvent& event) const {
+    return cell_at(mapFrom(window(), event.scenePosition()));
+}
+
+void CellArray::mark_at(QPointF point, Side side) {
+    if (const int cell = cell_at(mapFrom(window(), point)); cell >= 0)
+        emit marked(cell, side);
 }
 
 } // namespace cirrava

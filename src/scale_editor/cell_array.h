@@ -2,31 +2,22 @@
 
 #include "scale_editor/colour.h"
 #include "scale_editor/range.h"
+#include "scale_editor/scale.h"
 #include "widgets/twips.h"
 
 #include <QAccessible>
+#include <QList>
 #include <QWidget>
-#include <optional>
 #include <span>
 
 namespace cirrava {
 
-// Cells `first` to `last` of a scale, with a full line under those that are marked, and a dotted
-// one under those that only the brightness slider would change.
-struct Underline {
-    int first = 0;
-    int last = 0;
-    bool dotted = false;
-
-    bool operator==(const Underline&) const = default;
-};
-
-// All cells of one scale: rows of 100 cells that overlap like tiles, so that each shows a strip 120
-// twips wide and the last of a row its whole 255. The colours of the cells are the only
-// store of the palette. Every cell starts black.
+// All cells of one scale, in rows of 100. They overlap like tiles, so that each shows a strip 120
+// twips wide and the last of a row its whole 255. The colours of the cells are the only store of
+// the palette; every cell starts black.
 //
-// The widget covers the labels between its rows; there it is transparent, but for the line under
-// marked cells, and reacts to nothing.
+// The widget also covers the temperatures between its rows. There it is transparent, but for the
+// lines under cells, and reacts to nothing.
 class CellArray : public QWidget {
     Q_OBJECT
 public:
@@ -38,33 +29,37 @@ public:
 
     // Sets the first cells, at most as many as the scale has.
     void set_colours(std::span<const Colour> colours);
+    void fill(const Range& range, Colour colour);
 
-    // Draws a line under the cells of each run, in place of the lines there were.
-    void underline(const QList<Underline>& runs);
-    bool is_selected(int cell) const; // has a full line
+    // Draws a full line under the `marked` cells and a dotted one under the others of `dotted`, in
+    // place of the lines there were.
+    void underline(const QList<Range>& marked, const Range& dotted);
+    bool is_marked(int cell) const;
 
-    // Puts the scale into its parent window, its first row `top` twips from the top, for `dpi`
-    // logical dots per inch.
-    void lay_out(int top, int dpi);
+    // Puts the scale into its parent window, its first cell so many twips from the window's left
+    // and top. The window has `dpi` logical dots per inch.
+    void lay_out(int left, int top, int dpi);
 
-    // Where a cell takes the mouse, in this widget's pixels; a cell lies over the one before it.
+    // The whole of a cell, in this widget's pixels. The next cell lies over a part of it.
     QRect cell_box(int cell) const;
 
-    // Where a cell shows its colour: as wide as nothing lies over it.
+    // The part of a cell that shows its colour, which no other cell lies over.
     QRect strip(int cell) const;
 
-    // The cell that takes the mouse at `point`; -1 outside every cell.
-    int cell_at(QPoint point) const;
+    // The uppermost cell at `point`; -1 where there is none.
+    int cell_at(QPointF point) const;
 
-    // What mouse and screen reader do with a cell.
-    void mark(int cell, RangeEnd end) { emit marked(cell, end); }
-    void copy_colour(int cell) { emit colour_asked(cell); }
+    // Marks the cell at `point` of the window, if there is one.
+    void mark_at(QPointF point, Side side);
 
 signals:
-    // By a release of the left button for the start, of any other for the end; it was pressed over
-    // a cell of this or another scale.
-    void marked(int cell, RangeEnd end);
+    void changed(); // a colour, or several at once
+    void marked(int cell, Side side);
     void colour_asked(int cell); // by a double click with the left button
+
+    // A mouse button that was pressed over a cell was released at `point` of the window: the left
+    // one for the start of the range, any other for its end.
+    void released(QPointF point, Side side);
 
 protected:
     bool event(QEvent* event) override;
@@ -74,24 +69,20 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
-    struct Hit {
-        CellArray* scale;
-        int cell;
-    };
-    // The cell under the pointer, of any scale of the window.
-    std::optional<Hit> hit(const QMouseEvent& event) const;
-
+    int cell_under(const QMouseEvent& event) const; // -1 where there is none
     void tell_screen_readers(QAccessible::Event what);
-    void paint_underline(QPainter& painter, const Underline& run) const;
-    int visible_width(int cell) const;                       // in twips
-    QRect cell_pixels(int cell, const TwipRect& part) const; // `part` from the cell's top left
+    void paint_line(QPainter& painter, const Range& cells, int dash) const; // in twips
+    int visible_width(int cell) const;                                      // in twips
+    QRect to_pixels_of(int cell, const TwipRect& part) const; // `part` from the cell's top left
 
     ScaleKind kind_;
     QList<Colour> colours_;
-    QList<Underline> underlines_;
+    QList<Range> marked_;
+    Range dotted_;
+    int left_ = 0;
     int top_ = 0;
     int dpi_ = 96;
-    Qt::MouseButtons pressed_on_cells_; // and not yet released
+    Qt::MouseButtons pressed_; // over cells, and not yet released
 };
 
 } // namespace cirrava

@@ -6,7 +6,7 @@
 namespace cirrava {
 
 void ContinuationArrow::paintEvent(QPaintEvent*) {
-    // Drawn on a field 12 wide and 14 high, in the middle of the box: down, then to the right.
+    // The arrow goes down and then right, on a field 12 wide and 14 high in the middle of the box.
     QPainterPath shaft({2, 1});
     shaft.lineTo(2, 5);
     shaft.quadTo({2, 9}, {6, 9});
@@ -14,9 +14,9 @@ void ContinuationArrow::paintEvent(QPaintEvent*) {
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const double scale = width() / 17.0;
+    const double zoom = width() / 17.0;
     painter.translate(width() / 2.0, height() / 2.0);
-    painter.scale(scale, scale);
+    painter.scale(zoom, zoom);
     painter.translate(-6, -7);
     painter.setPen(QPen(Qt::red, 2, Qt::SolidLine, Qt::FlatCap));
     painter.drawPath(shaft);

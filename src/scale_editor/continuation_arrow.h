@@ -6,7 +6,6 @@ namespace cirrava {
 
 // The red arrow at the end of a row of cells that goes on in the row below.
 class ContinuationArrow : public QWidget {
-    Q_OBJECT
 protected:
     void paintEvent(QPaintEvent* event) override;
 };

@@ -1,28 +1,38 @@
 #include "scale_editor/palette_history.h"
 
+#include <utility>
+
 namespace cirrava {
 
-void PaletteHistory::remember() {
-    const Palettes now = palettes();
-    if (now == states_[current_])
-        return;
-    states_.resize(++current_);
-    states_ << now;
+PaletteHistory::PaletteHistory(const AllScales& scales, std::function<void()> hvc_changed)
+    : scales_(scales), hvc_changed_(std::move(hvc_changed)) {
+    for (const ScaleControls& scale : scales)
+        QObject::connect(&scale.cells, &CellArray::changed, &scale.cells, [this] { remember(); });
 }
 
-void PaletteHistory::go_to(qsizetype state) {
-    if (state < 0 || state >= states_.size())
+// An action of the user changes the cells of one scale, and all of them at once. So neighbours in
+// the history differ in one scale, and an undo or redo leaves nothing to remember.
+void PaletteHistory::remember() {
+    const Palettes now = palettes();
+    if (now == past_and_future_[current_])
         return;
-    current_ = state;
-    const auto hvc_before = scales_.Label3.colours();
-    for (const ScaleKind kind : all_scales)
-        scales_.cells(kind).set_colours(states_[state][static_cast<std::size_t>(kind)]);
-    if (scales_.Label3.colours() != hvc_before)
+    past_and_future_.resize(++current_);
+    past_and_future_ << now;
+}
+
+void PaletteHistory::go_to(qsizetype index) {
+    if (index < 0 || index >= past_and_future_.size())
+        return;
+    current_ = index;
+    const auto hvc_before = scales_.back().cells.colours();
+    for (std::size_t i = 0; i < scales_.size(); ++i)
+        scales_[i].cells.set_colours(past_and_future_[index][i]);
+    if (scales_.back().cells.colours() != hvc_before)
         hvc_changed_();
 }
 
-PaletteHistory::Palettes PaletteHistory::palettes() {
-    return {scales_.thermal_char.colours(), scales_.Label2.colours(), scales_.Label3.colours()};
+PaletteHistory::Palettes PaletteHistory::palettes() const {
+    return {scales_[0].cells.colours(), scales_[1].cells.colours(), scales_[2].cells.colours()};
 }
 
 } // namespace cirrava

@@ -1,36 +1,35 @@
 #pragma once
 
+#include "scale_editor/colour.h"
 #include "scale_editor/scale_controls.h"
 
+#include <QList>
+#include <array>
 #include <functional>
 
 namespace cirrava {
 
-// The cells as they were after every change of them, so that changes can be taken back and brought
-// back. It goes back to its own making.
+// The palettes as they were after each change of cells, so that changes can be undone and redone.
+// The first one is that of its making. What was undone before a change cannot be redone after it.
 class PaletteHistory {
 public:
-    // `hvc_changed` is called after each step back or forth that changed HVC cells.
-    PaletteHistory(ScaleControls& scales, std::function<void()> hvc_changed)
-        : scales_(scales), hvc_changed_(std::move(hvc_changed)) {}
-
-    // To be called after each action of the user that may have changed cells. What was taken back
-    // before a change cannot be brought back after it.
-    void remember();
+    // Calls `hvc_changed` after each undo or redo that changed HVC cells.
+    PaletteHistory(const AllScales& scales, std::function<void()> hvc_changed);
 
     void undo() { go_to(current_ - 1); }
     void redo() { go_to(current_ + 1); }
 
 private:
     // By scale. The lists of scales that did not change share their colours.
-    using Palettes = std::array<QList<Colour>, all_scales.size()>;
+    using Palettes = std::array<QList<Colour>, std::tuple_size_v<AllScales>>;
 
-    Palettes palettes();
-    void go_to(qsizetype state);
+    Palettes palettes() const;
+    void remember();
+    void go_to(qsizetype index);
 
-    ScaleControls& scales_;
+    const AllScales& scales_;
     std::function<void()> hvc_changed_;
-    QList<Palettes> states_{palettes()};
+    QList<Palettes> past_and_future_{palettes()};
     qsizetype current_ = 0;
 };
 

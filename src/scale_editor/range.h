@@ -1,16 +1,17 @@
 #pragma once
 
-#include "scale_editor/scale.h"
-
 namespace cirrava {
 
-enum class RangeEnd { start, end };
+// The two sides from which a range is marked.
+enum class Side { start, end };
 
-// The cells of one scale from `first` to `last`, both of them included.
+// The cells `first` to `last` of a scale, both included; none where `first` is above `last`.
 struct Range {
-    ScaleKind kind = ScaleKind::thermal;
     int first = 0;
-    int last = 0;
+    int last = -1;
+
+    bool holds(int cell) const { return first <= cell && cell <= last; }
+    bool operator==(const Range&) const = default;
 };
 
 } // namespace cirrava

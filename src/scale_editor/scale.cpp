@@ -1,6 +1,7 @@
 #include "scale_editor/scale.h"
 
-#include "scale_editor/number_text.h"
+#include <array>
+#include <charconv>
 
 namespace cirrava {
 
@@ -24,6 +25,19 @@ const Scale& scale(ScaleKind kind) {
     return scales[static_cast<std::size_t>(kind)];
 }
 
+// No locale changes it.
+std::string text_of(double value, std::chars_format format, int precision) {
+    std::array<char, 32> buffer{};
+    const auto [end, error] =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, format, precision);
+    return {buffer.data(), end};
+}
+
+// With at most 15 significant digits, which hide the noise: 14.360000000000001 gives 14.36.
+std::string plain_text(double value) {
+    return text_of(value, std::chars_format::general, 15);
+}
+
 } // namespace
 
 std::string_view kind_text(ScaleKind kind) {
@@ -38,37 +52,29 @@ double celsius(ScaleKind kind, int cell) {
     return cell * scale(kind).step + scale(kind).first;
 }
 
-double fahrenheit(double celsius) {
-    return celsius * 9.0 / 5.0 + 32.0;
-}
-
 std::string celsius_text(ScaleKind kind, int cell) {
     const double value = celsius(kind, cell);
-    return kind == ScaleKind::hvc ? plain_text(value) : one_decimal_text(value);
+    return kind == ScaleKind::hvc ? plain_text(value) : text_of(value, std::chars_format::fixed, 1);
 }
 
-std::string fahrenheit_text(std::string_view celsius_text) {
-    const auto value = numeric_value(celsius_text);
-    return value ? plain_text(fahrenheit(*value)) : " ";
+std::string fahrenheit_text(ScaleKind kind, int cell) {
+    return plain_text(celsius(kind, cell) * 9.0 / 5.0 + 32.0);
 }
 
 std::string tick_text(ScaleKind kind, int cell) {
-    const double value = celsius(kind, cell);
-    return plain_text(value) + "C/" + plain_text(fahrenheit(value)) + "F";
+    return plain_text(celsius(kind, cell)) + "C/" + fahrenheit_text(kind, cell) + "F";
 }
 
 std::string tooltip_text(ScaleKind kind, int cell) {
     std::string text = "(";
     text += std::to_string(cell + 1) + ") " + celsius_text(kind, cell) + "Celcius / ";
-    text += plain_text(fahrenheit(celsius(kind, cell))) + "Farenheit";
-    return text;
+    return text + fahrenheit_text(kind, cell) + "Farenheit";
 }
 
 std::string spoken_text(ScaleKind kind, int cell) {
     std::string text = "cell ";
     text += std::to_string(cell + 1) + ", " + celsius_text(kind, cell) + " C, ";
-    text += plain_text(fahrenheit(celsius(kind, cell))) + " F";
-    return text;
+    return text + fahrenheit_text(kind, cell) + " F";
 }
 
 } // namespace cirrava

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -8,8 +7,6 @@
 namespace cirrava {
 
 enum class ScaleKind { thermal, sea, hvc };
-
-inline constexpr std::array all_scales{ScaleKind::thermal, ScaleKind::sea, ScaleKind::hvc};
 
 // The name of a scale, as the window shows it: "Thermal", "Sea" or "HVC".
 std::string_view kind_text(ScaleKind kind);
@@ -22,14 +19,11 @@ int cell_count(ScaleKind kind);
 // arithmetic in its last digits; the texts below hide most of it.
 double celsius(ScaleKind kind, int cell);
 
-// Degrees Celsius to degrees Fahrenheit.
-double fahrenheit(double celsius);
-
 // A cell's Celsius value as the range boxes show it: with one decimal, on HVC with none.
 std::string celsius_text(ScaleKind kind, int cell);
 
-// The Fahrenheit value of a number of degrees Celsius given as text; one blank for any other text.
-std::string fahrenheit_text(std::string_view celsius_text);
+// The same in degrees Fahrenheit, with as many decimals as it has.
+std::string fahrenheit_text(ScaleKind kind, int cell);
 
 // "0C/32F", for the label under a cell.
 std::string tick_text(ScaleKind kind, int cell);

@@ -1,35 +1,23 @@
 #pragma once
 
 #include "scale_editor/cell_array.h"
-#include "scale_editor/range_box.h"
 #include "widgets/button.h"
-#include "widgets/number_bar.h"
 
-#include <QLabel>
+#include <QWidget>
+#include <array>
 
 namespace cirrava {
 
-// The controls of the three scales: the choice of one, its cells, the generation of its file, and
-// what only the HVC scale has.
+// The controls of one scale.
 struct ScaleControls {
-    QLabel Label5; // the working scale
-    Button thermal_butt, Sea_butt, hvc_butt;
-    CellArray thermal_char{ScaleKind::thermal};
-    CellArray Label2{ScaleKind::sea};
-    CellArray Label3{ScaleKind::hvc};
-    Button thermal_command, sea_command, hvc_command;
-    Button Command1;           // Reset
-    NumberBar HScroll4{10, 5}; // brightness, at rest in the middle
+    Button& choose; // makes it the working scale
+    CellArray& cells;
+    Button& generate;   // its file; enabled while it is the working scale, and so are
+    QWidgetList others; // the controls that only this scale has
 
-    CellArray& cells(ScaleKind kind) {
-        return kind == ScaleKind::thermal ? thermal_char : kind == ScaleKind::sea ? Label2 : Label3;
-    }
+    ScaleKind kind() const { return cells.kind(); }
 };
 
-// The ends of the selected range as temperatures.
-struct RangeBoxes {
-    RangeBox Text1, Text2;  // start and end, degrees Celsius
-    QLineEdit Text3, Text4; // start and end, degrees Fahrenheit
-};
+using AllScales = std::array<ScaleControls, 3>; // in the order of ScaleKind
 
 } // namespace cirrava

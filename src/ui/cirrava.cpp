@@ -1,123 +1,92 @@
 #include "ui/cirrava.h"
 
-#include "colour/apply_colour.h"
 #include "colour/pick_colour.h"
 #include "palette_files/load_palette.h"
-#include "palette_files/write_scale.h"
+#include "palette_files/palette_image.h"
+#include "palette_files/save_palette.h"
 #include "scale_editor/qt_values.h"
 #include "ui/about_window.h"
-#include "ui/cirrava_layout.h"
-#include "ui/cirrava_tables.h"
 #include "ui/help_windows.h"
 #include "ui/placer.h"
 
-#include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QShortcut>
+#include <utility>
 
 namespace cirrava {
 
-namespace {
+Cirrava::Cirrava(Dialogs dialogs) : cdlopen_(std::move(dialogs)) {
+    setObjectName("Cirrava");
+    setWindowIcon(program_icon());
+    cdlopen_.InitDir = QCoreApplication::applicationDirPath();
+    cdlopen_.FileName = "*.bmp";
+    cdlopen_.Filter = "*.bmp";
 
-// A window for screen readers, as which Qt does not know a widget that is one.
-QAccessibleInterface* accessible_window(const QString&, QObject* object) {
-    auto* const window = qobject_cast<Cirrava*>(object);
-    return window != nullptr ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
-}
-
-} // namespace
-
-Cirrava::Cirrava(Dialogs dialogs) : dialogs_(std::move(dialogs)) {
-    QAccessible::installFactory(accessible_window); // before anything asks for the window's
-    lay_out(controls_, *this);
-    start_up();
     connect_scales();
     connect_colour();
     connect_files();
     connect_windows();
     connect_history();
     connect_keys();
-}
-
-// Fits the captions while the window manager is busy with the window: the first measuring reads the
-// fonts, which takes as long.
-void Cirrava::setVisible(bool visible) {
-    QWidget::setVisible(visible);
-    if (visible)
-        fit_captions(*this);
-}
-
-void Cirrava::start_up() {
-    for (const auto& channel : controls_.channels())
-        current_colour_.slider_moved(channel);
-    working_scale_.set(ScaleKind::thermal);
-    cdlopen_.InitDir = QCoreApplication::applicationDirPath();
-    cdlopen_.FileName = "*.bmp";
-    cdlopen_.Filter = "*.bmp";
+    fit_captions(*this);
 }
 
 void Cirrava::connect_scales() {
     auto& c = controls_;
-    for (const ScaleKind kind : all_scales) {
-        CellArray& cells = c.cells(kind);
-        connect(&cells, &CellArray::marked, this,
-                [this, kind](int cell, RangeEnd end) { range_selection_.mark(kind, cell, end); });
-        connect(&cells, &CellArray::colour_asked, this,
-                [this, &cells](int cell) { current_colour_.take(cells.colour(cell)); });
+    for (const ScaleControls& scale : c.scales) {
+        on_click(scale.choose, [this, &scale] { selection_.choose(scale); });
+        connect(&scale.cells, &CellArray::marked, this,
+                [this, &scale](int cell, Side side) { selection_.mark(scale, cell, side); });
+        connect(&scale.cells, &CellArray::colour_asked, this,
+                [this, &scale](int cell) { current_colour_.take(scale.cells.colour(cell)); });
+        for (const ScaleControls& other : c.scales) // the pointer may have moved to its cells
+            connect(&scale.cells, &CellArray::released, &other.cells, &CellArray::mark_at);
     }
-    connect(&c.thermal_butt, &Button::clicked, this,
-            [this] { range_selection_.choose_scale(ScaleKind::thermal); });
-    connect(&c.Sea_butt, &Button::clicked, this,
-            [this] { range_selection_.choose_scale(ScaleKind::sea); });
-    connect(&c.hvc_butt, &Button::clicked, this,
-            [this] { range_selection_.choose_scale(ScaleKind::hvc); });
-    connect(&c.Text1, &QLineEdit::textChanged, this, [&c] { show_fahrenheit(c.Text1, c.Text3); });
-    connect(&c.Text2, &QLineEdit::textChanged, this, [&c] { show_fahrenheit(c.Text2, c.Text4); });
-    connect(&c.Text1, &RangeBox::stepped, this,
-            [this](int cells) { range_selection_.step(RangeEnd::start, cells); });
-    connect(&c.Text2, &RangeBox::stepped, this,
-            [this](int cells) { range_selection_.step(RangeEnd::end, cells); });
-    connect(&c.Command1, &Button::clicked, this, [this] { range_selection_.reset(); });
+    connect_box(c.Text1, Side::start);
+    connect_box(c.Text2, Side::end);
+    on_click(c.Command1, [this] { selection_.reset(); });
+}
+
+void Cirrava::connect_box(RangeBox& box, Side side) {
+    connect(&box, &RangeBox::stepped, this,
+            [this, side](int cells) { selection_.step(side, cells); });
+    connect(&box, &RangeBox::sent_to_coldest, this,
+            [this, side] { selection_.send_to_coldest(side); });
+    connect(&box, &RangeBox::sent_to_warmest, this,
+            [this, side] { selection_.send_to_warmest(side); });
+    connect(&box, &RangeBox::colour_asked, this, [this, side] { copy_colour(side); });
 }
 
 void Cirrava::connect_colour() {
     auto& c = controls_;
     for (Button& preset : c.color)
-        connect(&preset, &Button::clicked, this,
-                [this, &preset] { current_colour_.take(from_qt(preset.face())); });
-    for (const auto& channel : c.channels())
-        connect(&channel.slider, &NumberBar::valueChanged, this,
-                [this, channel] { current_colour_.slider_moved(channel); });
-    connect(&c.Text1, &RangeBox::colour_asked, this, [this] { copy_colour(RangeEnd::start); });
-    connect(&c.Text2, &RangeBox::colour_asked, this, [this] { copy_colour(RangeEnd::end); });
-    connect(&c.pickcolor, &Button::clicked, this,
-            [this] { pick_colour(cdlopen_, dialogs_, current_colour_); });
-    connect(&c.Command2, &Button::clicked, this, [this] { apply(); });
+        on_click(preset, [this, &preset] { current_colour_.take(from_qt(preset.face())); });
+    on_click(c.pickcolor, [this] { pick_colour(cdlopen_, current_colour_); });
+    on_click(c.Command2, [this] { apply(); });
 }
 
 void Cirrava::connect_files() {
     auto& c = controls_;
-    connect(&c.thermal_command, &Button::clicked, this,
-            [this] { write_thermal(cdlopen_, dialogs_, controls_.thermal_char); });
-    connect(&c.sea_command, &Button::clicked, this,
-            [this] { write_sea(cdlopen_, dialogs_, controls_.Label2); });
-    connect(&c.hvc_command, &Button::clicked, this, [this] { hvc_palette_.generate(); });
-    connect(&c.HScroll4, &NumberBar::valueChanged, this, [this] {
-        hvc_palette_.brightness_changed();
-        history_.remember();
+    on_click(c.thermal_command, [this, &c] {
+        save_palette(cdlopen_, row_image(c.thermal_char.colours()),
+                     {"thermal.bmp", "Create Thermal", "Error# "});
     });
-    connect(&c.Command5, &Button::clicked, this, [this] {
-        load_palette(cdlopen_, dialogs_, controls_, controls_.Picture1);
-        history_.remember();
+    on_click(c.sea_command, [this, &c] {
+        save_palette(cdlopen_, row_image(c.Label2.colours()),
+                     {"sea.bmp", "Create Sea Surface Palette", "Error # "});
     });
+    on_click(c.hvc_command, [this] { hvc_palette_.generate(); });
+    connect(&c.HScroll4, &Slider::valueChanged, this,
+            [this] { hvc_palette_.brightness_changed(); });
+    on_click(c.Command5, [this, &c] { load_palette(cdlopen_, c.scales, c.Picture1); });
 }
 
 void Cirrava::connect_windows() {
     auto& c = controls_;
-    connect(&c.Command3, &Button::clicked, this, [this] { show_frmAbout(*this); });
-    connect(&c.Command4, &Button::clicked, this, [this] { show_palhelp(*this); });
-    connect(&c.hvc_help, &Button::clicked, this, [this] { show_hvchelp(*this); });
-    connect(&c.Command6, &Button::clicked, this, [] { QCoreApplication::exit(0); });
+    on_click(c.Command3, [this] { show_frmAbout(*this); });
+    on_click(c.Command4, [this] { show_palhelp(*this); });
+    on_click(c.hvc_help, [this] { show_hvchelp(*this); });
+    on_click(c.Command6, [] { QCoreApplication::exit(0); });
 }
 
 void Cirrava::connect_history() {
@@ -129,28 +98,37 @@ void Cirrava::connect_history() {
 }
 
 void Cirrava::connect_keys() {
-    for (const auto& [keys, buttons] : tables::keys) {
-        auto* const shortcut = new QShortcut(keys, this);
+    auto& c = controls_;
+    const auto press = [this](QKeyCombination keys, const QList<Button*>& buttons) {
+        auto* const shortcut = new QShortcut(keys, this); // which the window owns
         shortcut->setAutoRepeat(false);
-        connect(shortcut, &QShortcut::activated, this, [this, &buttons = buttons] {
-            for (const tables::Member<Button> button : buttons)
-                if (button != nullptr)
-                    (controls_.*button).click(); // a disabled one does nothing
-        });
-    }
+        for (Button* button : buttons) // of which a disabled one does nothing
+            connect(shortcut, &QShortcut::activated, button, &Button::click);
+    };
+    press(Qt::Key_F1, {&c.Command4});
+    press(Qt::CTRL | Qt::Key_O, {&c.Command5});
+    press(Qt::CTRL | Qt::Key_S, {&c.thermal_command, &c.sea_command, &c.hvc_command});
+    press(Qt::CTRL | Qt::Key_Return, {&c.Command2});
+    press(Qt::CTRL | Qt::Key_Enter, {&c.Command2});
+    press(Qt::CTRL | Qt::Key_1, {&c.thermal_butt});
+    press(Qt::CTRL | Qt::Key_2, {&c.Sea_butt});
+    press(Qt::CTRL | Qt::Key_3, {&c.hvc_butt});
 }
 
-void Cirrava::copy_colour(RangeEnd end) {
-    if (const auto cell = range_selection_.cell_of(end))
-        current_colour_.take(controls_.cells(working_scale_.kind()).colour(*cell));
+void Cirrava::copy_colour(Side side) {
+    if (const auto cell = selection_.cell_of(side))
+        current_colour_.take(selection_.working_scale().cells.colour(*cell));
 }
 
 void Cirrava::apply() {
-    const auto range = range_selection_.range();
-    apply_colour(current_colour_.colour(), range, controls_, dialogs_);
-    if (range && range->kind == ScaleKind::hvc)
+    const auto range = selection_.range();
+    if (!range)
+        return cdlopen_.tell(
+            "Choose a range by left clicking for start and right clicking for end");
+    const ScaleControls& scale = selection_.working_scale();
+    scale.cells.fill(*range, current_colour_.colour());
+    if (scale.kind() == ScaleKind::hvc)
         hvc_palette_.refresh_preview();
-    history_.remember();
 }
 
 } // namespace cirrava

@@ -3,41 +3,47 @@
 #include "colour/current_colour.h"
 #include "palette_files/hvc_palette.h"
 #include "scale_editor/palette_history.h"
-#include "scale_editor/range_selection.h"
+#include "scale_editor/selection.h"
 #include "ui/cirrava_controls.h"
+#include "widgets/common_dialog.h"
+#include "widgets/dialogs.h"
+
+#include <QMainWindow>
 
 namespace cirrava {
 
-// The main window. It owns the controls, the editor's state and the controllers, and connects each
-// event to what answers it.
-class Cirrava : public QWidget {
-    Q_OBJECT
+// The main window. It owns the controls and the controllers and connects each event to what answers
+// it.
+class Cirrava : public QMainWindow {
 public:
     Cirrava() : Cirrava(qt_dialogs(*this)) {}
     explicit Cirrava(Dialogs dialogs);
-    void setVisible(bool visible) override;
 
 private:
-    void start_up();
+    template <class Action> void on_click(Button& button, Action action) {
+        connect(&button, &Button::clicked, this, action);
+    }
     void connect_scales();
+    void connect_box(RangeBox& box, Side side);
     void connect_colour();
     void connect_files();
     void connect_windows();
     void connect_history();
     void connect_keys();
-    void copy_colour(RangeEnd end);
+    void copy_colour(Side side);
     void apply();
 
-    CirravaControls controls_;
-    EditorState state_;
-    Dialogs dialogs_;
-    CommonDialog cdlopen_{dialogs_};
+    CirravaControls controls_{*this};
+    CommonDialog cdlopen_;
 
-    WorkingScale working_scale_{controls_};
-    RangeSelection range_selection_{state_, working_scale_, controls_, controls_};
-    CurrentColour current_colour_{controls_};
-    HvcPalette hvc_palette_{cdlopen_, dialogs_, state_, controls_, controls_.Picture1};
-    PaletteHistory history_{controls_, [this] { hvc_palette_.refresh_preview_silently(); }};
+    Selection selection_{controls_.scales,
+                         controls_.Label5,
+                         {controls_.Text1, controls_.Text3},
+                         {controls_.Text2, controls_.Text4}};
+    CurrentColour current_colour_{controls_.sample, controls_.channels};
+    HvcPalette hvc_palette_{cdlopen_, selection_, controls_.Label3, controls_.HScroll4,
+                            controls_.Picture1};
+    PaletteHistory history_{controls_.scales, [this] { hvc_palette_.refresh_preview_silently(); }};
 };
 
 } // namespace cirrava

@@ -11,16 +11,16 @@ namespace cirrava {
 
 namespace {
 
-// Outline fonts only, since captions are scaled and stretched. Of fonts of the same widths, the one
-// that most systems without the other have comes first: where a family is missing, the font system
-// searches and sorts for it at length.
+// Outline fonts only, since captions are scaled and stretched. Liberation comes before Arial, which
+// has the same widths, since more systems have it alone: the search for a missing family takes
+// long.
 QStringList families(FontFamily family) {
     if (family == FontFamily::narrow)
         return {"Liberation Sans Narrow", "Arial Narrow", "Arial", "DejaVu Sans"};
     return {"Liberation Sans", "Arial", "DejaVu Sans"};
 }
 
-// Without a look at its bytes, for which Qt would load all its image plugins.
+// Reads `file` without detecting its format, for which Qt would load all its image plugins.
 QImage read_png(const QString& file) {
     QImageReader reader(file, "PNG");
     reader.setAutoDetectImageFormat(false);
@@ -46,8 +46,8 @@ public:
         }
     }
 
-    // With a clip of the painter's own, translucent lines are drawn at once. Without one, Qt draws
-    // them pixel by pixel in threads that it starts for them, which delays the first picture.
+    // The clip makes Qt draw translucent lines at once. Without it, Qt draws them pixel by pixel in
+    // threads that it starts for them, which delays the first painting.
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget) const override {
         painter->save();
@@ -86,19 +86,20 @@ QFont to_font(const FontLook& look) {
     return font;
 }
 
-QPixmap program_picture(double scale, double zoom) {
-    const QString density = scale <= 1 ? QString() : QString("@%1x").arg(scale <= 2 ? 2 : 3);
-    QImage image = read_png(":/picture" + density + ".png");
-    const QSize size = (QSizeF(72, 96) * scale * zoom).toSize();
+QPixmap program_picture(double device_pixels, double zoom) {
+    const QString suffix =
+        device_pixels <= 1 ? QString() : QString("@%1x").arg(device_pixels <= 2 ? 2 : 3);
+    QImage image = read_png(":/picture" + suffix + ".png");
+    const QSize size = (QSizeF(72, 96) * device_pixels * zoom).toSize();
     if (image.size() != size)
         image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    image.setDevicePixelRatio(scale);
+    image.setDevicePixelRatio(device_pixels);
     return QPixmap::fromImage(image);
 }
 
 QIcon program_icon() {
     QIcon icon;
-    for (const int size : {16, 32, 64}) // a title bar asks for no larger one
+    for (const int size : {16, 32, 64}) // title bars need no larger one
         icon.addPixmap(QPixmap::fromImage(read_png(QString(":/icon-%1.png").arg(size))));
     return icon;
 }

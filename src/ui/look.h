@@ -2,7 +2,8 @@
 
 #include <QFont>
 #include <QIcon>
-#include <QWidget>
+#include <QPixmap>
+#include <QRgb>
 #include <optional>
 
 class QApplication;
@@ -30,13 +31,14 @@ struct Look {
 
 QFont to_font(const FontLook& look);
 
-// The satellite above the earth: 72 x 96 pixels times `zoom`, sharp at `scale` device pixels to a
-// pixel.
-QPixmap program_picture(double scale, double zoom);
+// The satellite above the earth: 72 x 96 pixels times `zoom`, sharp on a screen with so many device
+// pixels to a pixel.
+QPixmap program_picture(double device_pixels, double zoom);
 
 QIcon program_icon();
 
-// The Fusion style with one fixed light palette and the standard font. Before any window is made.
+// Sets the Fusion style with one fixed light palette and the standard font. To be called before any
+// window is made.
 void set_program_look(QApplication& application);
 
 } // namespace cirrava

@@ -1,9 +1,7 @@
 #include "ui/placer.h"
 
-#include "widgets/button.h"
 #include "widgets/focus_outline.h"
 
-#include <QLabel>
 #include <QScreen>
 #include <QtMath>
 
@@ -51,27 +49,41 @@ Placer::Placer(QWidget& window, const QString& title, QSize client_area) : windo
     window.setWindowTitle(title);
     window.setFixedSize(to_pixels(rect, dpi_).size());
     if (shrink_ < 1)
-        window.setFont(font({}));
+        window.setFont(scaled_font({}));
     new FocusOutline(window); // the window owns it
 }
 
-void Placer::place(QWidget& control, const QString& name, const TwipRect& rect) const {
+void Placer::control(QWidget& control, const QString& name, const QString& spoken,
+                     const TwipRect& rect) const {
     control.setParent(&window_);
     control.setObjectName(name);
+    control.setAccessibleName(spoken);
     control.setGeometry(to_pixels(rect, dpi_));
 }
 
-QFont Placer::font(const FontLook& look) const {
-    QFont font = to_font(look);
-    font.setPointSizeF(look.points * shrink_);
-    return font;
+void Placer::label(QLabel& label, const QString& name, const QString& text, const TwipRect& rect,
+                   const Look& look) const {
+    control(label, name, {}, rect);
+    give_look(label, look);
+    label.setTextFormat(Qt::PlainText);
+    label.setWordWrap(true);
+    label.setText(text);
+}
+
+void Placer::button(Button& button, const QString& name, const QString& caption,
+                    const TwipRect& rect, const Look& look) const {
+    control(button, name, {}, rect);
+    give_look(button, {.font = look.font});
+    if (look.ground)
+        button.set_face(*look.ground);
+    button.setText(caption);
 }
 
 void Placer::give_look(QWidget& control, const Look& look) const {
     // What a look leaves open is left alone: controls that share the program's font and palette
     // share what the style has drawn for them, too.
     if (look.font != FontLook{}) {
-        QFont caption_font = font(look.font);
+        QFont caption_font = scaled_font(look.font);
         caption_font.setStyleStrategy(QFont::NoFontMerging); // they need no letters of other fonts
         control.setFont(caption_font);
     }
@@ -87,7 +99,13 @@ void Placer::give_look(QWidget& control, const Look& look) const {
     control.setPalette(palette);
 }
 
-void fit_captions(const QWidget& window) {
+QFont Placer::scaled_font(const FontLook& look) const {
+    QFont font = to_font(look);
+    font.setPointSizeF(look.points * shrink_);
+    return font;
+}
+
+void fit_captions(QWidget& window) {
     for (auto* const label : window.findChildren<QLabel*>())
         fit(*label, label->text().trimmed(), label->contentsRect());
     for (auto* const button : window.findChildren<Button*>())

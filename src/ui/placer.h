@@ -1,7 +1,10 @@
 #pragma once
 
 #include "ui/look.h"
+#include "widgets/button.h"
 #include "widgets/twips.h"
+
+#include <QLabel>
 
 namespace cirrava {
 
@@ -17,14 +20,18 @@ public:
     int dpi() const { return dpi_; }
     double shrink() const { return shrink_; } // of the screen's dots per inch; 1 where it fits
 
-    // Puts `control` into the window under that name.
-    void place(QWidget& control, const QString& name, const TwipRect& rect) const;
+    // Each puts a control into the window under that name. `spoken` is for screen readers only.
+    void control(QWidget& control, const QString& name, const QString& spoken,
+                 const TwipRect& rect) const;
+    void label(QLabel& label, const QString& name, const QString& text, const TwipRect& rect,
+               const Look& look = {}) const;
+    void button(Button& button, const QString& name, const QString& caption, const TwipRect& rect,
+                const Look& look = {}) const;
 
-    QFont font(const FontLook& look) const;
-
-    // Gives `control` the font and text colour of `look`, and its ground where the control fills
-    // one.
+    // Gives `control` the font and colours of `look`.
     void give_look(QWidget& control, const Look& look) const;
+
+    QFont scaled_font(const FontLook& look) const;
 
 private:
     QWidget& window_;
@@ -35,6 +42,6 @@ private:
 // Narrows the font of every caption of `window` until it fits its box, wrapped where the box has
 // room for several lines. Fonts differ in width from one machine to the next; boxes do not. After
 // the last caption is written.
-void fit_captions(const QWidget& window);
+void fit_captions(QWidget& window);
 
 } // namespace cirrava

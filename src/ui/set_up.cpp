@@ -12,8 +12,8 @@ namespace cirrava {
 void set_up_process() {
     let_writes_past_size_limit_fail();
     QApplication::setDesktopSettingsAware(false);
-    // Nothing is kept between runs: Qt's dialogs find nowhere for their histories. On Windows it
-    // takes the Qt that packaging/windows builds.
+    // Qt's dialogs would keep histories between runs, and find nowhere for them. On Windows this
+    // needs the Qt that packaging/windows builds.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ":/");
 }
 

@@ -4,9 +4,10 @@ class QApplication;
 
 namespace cirrava {
 
-// What the program asks of its process, before the QApplication is made, and of that, before any
-// window is made.
+// Sets up the process, before the QApplication is made.
 void set_up_process();
+
+// Sets up the QApplication, before any window is made.
 void set_up_application(QApplication& application);
 
 } // namespace cirrava

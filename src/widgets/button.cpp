@@ -6,10 +6,6 @@
 
 namespace cirrava {
 
-Button::Button() {
-    setFocusPolicy(Qt::StrongFocus);
-}
-
 void Button::set_face(const QColor& face) {
     if (face == face_)
         return;

@@ -11,8 +11,6 @@ namespace cirrava {
 class Button : public QPushButton {
     Q_OBJECT
 public:
-    Button();
-
     // An invalid colour gives back the standard look.
     void set_face(const QColor& face);
     QColor face() const { return face_; }

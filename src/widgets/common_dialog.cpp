@@ -1,23 +1,19 @@
 #include "widgets/common_dialog.h"
 
+#include "platform/file_system.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <QTemporaryFile>
 
 namespace cirrava {
 
 namespace {
 
-// Asked by trying: on Windows, Qt does not look at a folder's permissions.
-bool is_writable(const QString& folder) {
-    return !folder.isEmpty() && QTemporaryFile(folder + "/cirrava-pal").open();
-}
-
 QString writable_folder(const QString& wanted) {
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     for (const QString& folder : {wanted, documents})
-        if (is_writable(folder))
+        if (may_write_in(QFileInfo(folder).filesystemFilePath()))
             return folder;
     return QDir::homePath();
 }
@@ -36,14 +32,22 @@ void CommonDialog::ShowColor(const QColor& shown_first) {
     Color = given(dialogs_.colour(shown_first));
 }
 
+std::filesystem::path CommonDialog::file_path() const {
+    return QFileInfo(FileName).filesystemFilePath();
+}
+
+void CommonDialog::tell(const QString& before, const Failure& failure, const QString& after) {
+    if (failure.number == FailureNumber::cancelled)
+        return tell("Operation Cancelled");
+    tell(before + QString::number(static_cast<int>(failure.number)) + after);
+}
+
 FileQuestion CommonDialog::file_question() const {
     const QFileInfo file(FileName);
-    const bool has_folder = FileName.contains(u'/');
-    const bool is_pattern = FileName == Filter;
     return {.title = DialogTitle,
             .filter = Filter,
-            .folder = has_folder ? file.path() : writable_folder(InitDir),
-            .name = is_pattern ? QString() : file.fileName()};
+            .folder = FileName.contains(u'/') ? file.path() : writable_folder(InitDir),
+            .name = FileName == Filter ? QString() : file.fileName()};
 }
 
 template <class Answer> Answer CommonDialog::given(const std::optional<Answer>& answer) const {

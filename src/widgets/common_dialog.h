@@ -1,23 +1,29 @@
 #pragma once
 
+#include "platform/failure.h"
 #include "widgets/dialogs.h"
+
+#include <QColor>
+#include <QString>
+#include <filesystem>
+#include <optional>
+#include <utility>
 
 namespace cirrava {
 
-// The one dialog component that all file and colour dialogs of a window go through. Its members are
-// set before a call and keep their values from one call to the next.
+// The one dialog component of a window: all its dialogs and messages go through it. Its members are
+// set before a dialog is shown and keep their values for the next one.
 class CommonDialog {
 public:
-    explicit CommonDialog(const Dialogs& dialogs) : dialogs_(dialogs) {}
-    Q_DISABLE_COPY_MOVE(CommonDialog)
+    explicit CommonDialog(Dialogs dialogs) : dialogs_(std::move(dialogs)) {}
 
     // Before a file dialog: the name to propose, with or without a folder; a pattern such as
     // "*.bmp" proposes none. After it: the full path chosen.
     QString FileName;
     QString DialogTitle;
     QString Filter;
-    // Where a dialog opens when FileName has no folder; where the user may not write there, it
-    // opens in the user's documents folder or home instead.
+    // The folder in which a dialog opens when FileName has none. Where the user may not write
+    // there, it opens in the user's documents folder or home instead.
     QString InitDir;
     bool CancelError = false; // true at each call: a cancel throws Failure{cancelled}
     QColor Color;             // after ShowColor: the colour chosen
@@ -26,11 +32,22 @@ public:
     void ShowSave();
     void ShowColor(const QColor& shown_first);
 
+    // FileName after a dialog, as files are opened by it.
+    std::filesystem::path file_path() const;
+
+    bool ask(const QString& question, const QString& title) {
+        return dialogs_.ask(question, title);
+    }
+    void tell(const QString& message) { dialogs_.tell(message); }
+
+    // Tells of a cancel as such, and of any other failure by its number between the two texts.
+    void tell(const QString& before, const Failure& failure, const QString& after);
+
 private:
     FileQuestion file_question() const;
     template <class Answer> Answer given(const std::optional<Answer>& answer) const;
 
-    const Dialogs& dialogs_;
+    Dialogs dialogs_;
 };
 
 } // namespace cirrava

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "platform/failure.h"
-
 #include <QColor>
+#include <QLatin1StringView>
 #include <QString>
 #include <functional>
 #include <optional>
@@ -34,14 +33,9 @@ struct Dialogs {
     std::function<void(const QString& text)> tell = {};
 };
 
-// Qt's own dialogs, in front of `parent`, which must outlive them. The file dialogs let a
-// name pass that does not exist yet, and one that does, and add no suffix.
+// Qt's own dialogs, in front of `parent`, which must outlive them. The file dialogs accept a name
+// whether or not such a file exists, and add no suffix.
 Dialogs qt_dialogs(QWidget& parent);
-
-// The message for a failure: its number between the texts of the action that failed.
-inline QString failure_message(const QString& start, const Failure& failure, const QString& end) {
-    return start + QString::number(static_cast<int>(failure.number)) + end;
-}
 
 // The title of every message that gives none of its own.
 inline constexpr QLatin1StringView program_title("CirravaPal");

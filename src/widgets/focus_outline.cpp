@@ -8,7 +8,7 @@ namespace cirrava {
 
 namespace {
 
-// The edge of `box`, `width` wide, to its inside.
+// Paints the inner edge of `box`, `width` wide.
 void paint_edge(QPainter& painter, const QRectF& box, double width, Qt::GlobalColor colour) {
     const QSizeF across(box.width(), width);
     const QSizeF down(width, box.height());
@@ -30,10 +30,10 @@ FocusOutline::FocusOutline(QWidget& window) : QFocusFrame(&window) {
 }
 
 void FocusOutline::paintEvent(QPaintEvent*) {
-    const int beyond = style()->pixelMetric(QStyle::PM_FocusFrameHMargin); // the control's edge
-    const QRectF box = rect().adjusted(beyond, beyond, -beyond, -beyond);
-    const double scale = devicePixelRatioF();
-    const double line = qRound(scale) / scale; // of whole device pixels
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin); // around the control
+    const QRectF box = rect().adjusted(margin, margin, -margin, -margin);
+    const double device_pixels = devicePixelRatioF(); // to a pixel
+    const double line = qRound(device_pixels) / device_pixels;
     QPainter painter(this);
     paint_edge(painter, box, line, Qt::black);
     paint_edge(painter, box.adjusted(line, line, -line, -line), line, Qt::white);

@@ -4,11 +4,10 @@
 
 namespace cirrava {
 
-// Shows which control of `window` has the keyboard, once keys have moved it there: a black and a
-// white line around its edge, which stand out from every colour and leave the pixels within them
-// as they are.
+// Shows which control of `window` has the focus, once keys have moved it there, by a black and a
+// white line along its edge. They stand out from every colour and leave the pixels within them as
+// they are.
 class FocusOutline : public QFocusFrame {
-    Q_OBJECT
 public:
     explicit FocusOutline(QWidget& window);
 

@@ -7,9 +7,8 @@ namespace cirrava {
 
 namespace {
 
-bool is_enter(const QEvent& event) {
-    const int key = static_cast<const QKeyEvent&>(event).key();
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
+bool is_enter(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 class HeldEnterFilter : public QObject {
@@ -17,31 +16,33 @@ public:
     using QObject::QObject;
 
     bool eventFilter(QObject* object, QEvent* event) override {
-        if (!object->isWindowType()) // to which events come first
+        if (!object->isWindowType()) // each event comes to a window first
             return false;
-        if (event->type() == QEvent::KeyPress)
-            return is_held(static_cast<const QKeyEvent&>(*event));
+        const auto* const key = dynamic_cast<const QKeyEvent*>(event);
         if (event->type() == QEvent::MouseButtonPress)
-            enter_is_last_ = false;
-        else if (event->type() == QEvent::KeyRelease && is_enter(*event))
-            released_ = static_cast<const QKeyEvent*>(event)->timestamp();
-        return false;
+            enter_was_last_ = false;
+        if (event->type() == QEvent::KeyRelease && is_enter(*key))
+            released_ = key->timestamp();
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        const bool ignored = is_held(*key);
+        enter_was_last_ = is_enter(*key);
+        return ignored;
     }
 
 private:
-    // Where a window has just opened, Qt may not tell that a key is held: then its release and its
-    // press are of one instant. Where a window has just closed, Qt may miss the release and take
-    // the next press for one of a held key: then something else was pressed in between.
-    bool is_held(const QKeyEvent& press) {
+    // `isAutoRepeat` alone is not enough: where a window has just opened, Qt may report a held key
+    // as released and pressed anew in one instant, and a held Enter wrote the file each time. Where
+    // a window has just closed, Qt may miss the release and report the next press as a repetition;
+    // then something else was pressed in between.
+    bool is_held(const QKeyEvent& press) const {
         const bool repeats =
             press.isAutoRepeat() || (released_ != 0 && press.timestamp() == released_);
-        const bool held = is_enter(press) && enter_is_last_ && repeats;
-        enter_is_last_ = is_enter(press);
-        return held;
+        return is_enter(press) && enter_was_last_ && repeats;
     }
 
-    bool enter_is_last_ = false; // of what was pressed
-    quint64 released_ = 0;       // when Enter was; 0 is no time
+    bool enter_was_last_ = false; // of all that was pressed
+    quint64 released_ = 0;        // the instant when Enter was released; 0 is none
 };
 
 } // namespace

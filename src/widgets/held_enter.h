@@ -4,8 +4,8 @@ class QApplication;
 
 namespace cirrava {
 
-// Has Enter that is held down press nothing after its first press, in any window of the program: it
-// would run through a dialog and its question, and overwrite a file.
+// Makes Enter count once however long it is held, in every window of the program. A held Enter
+// would run through a file dialog and the question after it, and overwrite a file.
 void ignore_held_enter(QApplication& application);
 
 } // namespace cirrava

@@ -4,7 +4,7 @@
 
 namespace cirrava {
 
-// A line, or bar, that fills its whole box with its text colour.
+// A line that fills its whole box with its text colour.
 class Line : public QWidget {
 public:
     Line() {

@@ -5,14 +5,14 @@
 
 namespace cirrava {
 
-// A box with a sunken border that shows an image at the top left, each pixel a sharp square at
-// every scale factor. It starts empty.
+// A box with a sunken border that shows an image at its top left, each pixel of it as a sharp
+// square on every screen. It starts empty.
 class PictureBox : public QFrame {
     Q_OBJECT
 public:
     PictureBox();
 
-    // How many pixels of the box a pixel of an image takes.
+    // Sets the width of an image's pixel in pixels of the box.
     void set_zoom(double zoom) { zoom_ = zoom; }
 
     void show_image(const QImage& image);

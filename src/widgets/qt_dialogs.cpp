@@ -18,6 +18,7 @@
 #include <QStandardPaths>
 #include <QTreeView>
 #include <QUrl>
+#include <functional>
 
 namespace cirrava {
 
@@ -34,18 +35,18 @@ QList<QUrl> side_bar_folders() {
     return urls;
 }
 
-// Qt adds a path that is typed to what is selected in the list, a folder on the way to it among
-// that, and may then take the folder for the answer.
-void let_typing_replace_selection(const QFileDialog& dialog) {
-    const auto* const edit = dialog.findChild<QLineEdit*>();
-    const auto* const files = dialog.findChild<QTreeView*>();
+// While a path is typed, Qt selects in the list what lies on the way to it, and may then take a
+// selected folder for the answer.
+void let_typing_replace_selection(QFileDialog& dialog) {
+    auto* const edit = dialog.findChild<QLineEdit*>();
+    auto* const files = dialog.findChild<QTreeView*>();
     if (edit != nullptr && files != nullptr)
         QObject::connect(edit, &QLineEdit::textEdited, files->selectionModel(),
                          &QItemSelectionModel::clearSelection);
 }
 
-// Qt cuts names in the side bar and in the columns of the list.
-void make_room_for_names(const QFileDialog& dialog) {
+// Widens the side bar and the columns of the list, in which Qt would cut names.
+void make_room_for_names(QFileDialog& dialog) {
     if (auto* const files = dialog.findChild<QTreeView*>())
         files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     if (const auto* const splitter = dialog.findChild<QSplitter*>())
@@ -53,8 +54,8 @@ void make_room_for_names(const QFileDialog& dialog) {
             side_bar->setMinimumWidth(side_bar->sizeHintForColumn(0) + 2 * side_bar->frameWidth());
 }
 
-std::optional<QString> ask_for_file(QWidget& parent, const FileQuestion& question,
-                                    QFileDialog::AcceptMode mode) {
+std::optional<QString> ask_for_file(QWidget& parent, QFileDialog::AcceptMode mode,
+                                    const FileQuestion& question) {
     QFileDialog dialog(&parent, question.title, question.folder, question.filter);
     // The desktop's own dialogs cannot be kept from asking about overwriting everywhere.
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
@@ -71,8 +72,8 @@ std::optional<QString> ask_for_file(QWidget& parent, const FileQuestion& questio
     return QDir::cleanPath(dialog.selectedFiles().value(0));
 }
 
-// `text` with breaks that do not show in each word wider than `width` pixels, such as a long path,
-// so that it can be broken anywhere.
+// Lets words wider than `width` pixels, such as a long path, be broken anywhere: returns `text`
+// with invisible breaks between their letters.
 QString breakable(const QString& text, const QFontMetrics& metrics, int width) {
     static const QRegularExpression letter("(\\X)");
     QStringList words = text.split(u' ');
@@ -102,7 +103,7 @@ protected:
     }
 
 private:
-    // Who copies the text or hears it gets it without the breaks.
+    // The clipboard and screen readers get the text without the breaks.
     void show_broken_where_long() {
         setText(breakable(text_, fontMetrics(), screen()->availableGeometry().width() / 2));
         if (text() == text_)
@@ -113,7 +114,7 @@ private:
                 label->setAccessibleName(text_);
     }
 
-    // In the fonts of most desktops, with an icon and the buttons of the title bar.
+    // The title is as wide in the fonts of most desktops, with an icon and buttons beside it.
     void make_room_for_title() {
         const int room =
             2 * fontMetrics().horizontalAdvance(windowTitle()) + 10 * fontMetrics().height();
@@ -130,28 +131,24 @@ std::optional<QColor> ask_for_colour(QWidget& parent, const QColor& initial) {
     return colour.isValid() ? std::optional(colour) : std::nullopt;
 }
 
+bool ask(QWidget& parent, const QString& text, const QString& title) {
+    return MessageBox(parent, title, text, QMessageBox::Yes | QMessageBox::No).exec() ==
+           QMessageBox::Yes;
+}
+
+void tell(QWidget& parent, const QString& text) {
+    MessageBox(parent, program_title, text, QMessageBox::Ok).exec();
+}
+
 } // namespace
 
 Dialogs qt_dialogs(QWidget& parent) {
-    return {
-        .open =
-            [&parent](const FileQuestion& question) {
-                return ask_for_file(parent, question, QFileDialog::AcceptOpen);
-            },
-        .save =
-            [&parent](const FileQuestion& question) {
-                return ask_for_file(parent, question, QFileDialog::AcceptSave);
-            },
-        .colour = [&parent](const QColor& initial) { return ask_for_colour(parent, initial); },
-        .ask =
-            [&parent](const QString& text, const QString& title) {
-                return MessageBox(parent, title, text, QMessageBox::Yes | QMessageBox::No).exec() ==
-                       QMessageBox::Yes;
-            },
-        .tell =
-            [&parent](const QString& text) {
-                MessageBox(parent, program_title, text, QMessageBox::Ok).exec();
-            }};
+    const auto in_front_of = std::ref(parent);
+    return {.open = std::bind_front(ask_for_file, in_front_of, QFileDialog::AcceptOpen),
+            .save = std::bind_front(ask_for_file, in_front_of, QFileDialog::AcceptSave),
+            .colour = std::bind_front(ask_for_colour, in_front_of),
+            .ask = std::bind_front(ask, in_front_of),
+            .tell = std::bind_front(tell, in_front_of)};
 }
 
 } // namespace cirrava

@@ -15,6 +15,12 @@ struct TwipRect {
 // `rect` in the pixels of a window with `dpi` logical dots per inch (15 twips to a pixel at 96).
 // Edges are rounded, not sizes, so that rectangles that touch in twips touch in pixels; a thin one
 // is at least a pixel wide and high.
-QRect to_pixels(const TwipRect& rect, int dpi);
+inline QRect to_pixels(const TwipRect& rect, int dpi) {
+    const auto pixels = [dpi](int twips) { return qRound(twips * dpi / 1440.0); };
+    const int left = pixels(rect.left);
+    const int top = pixels(rect.top);
+    return {left, top, qMax(1, pixels(rect.left + rect.width) - left),
+            qMax(1, pixels(rect.top + rect.height) - top)};
+}
 
 } // namespace cirrava

@@ -1,83 +1,81 @@
 #include "palette_files/palette_image.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace cirrava {
 
 namespace {
 
+// A number in the headers: its first byte, its size in bytes, its value, and whether a file with
+// another one is no palette.
+struct Field {
+    const char* name;
+    std::size_t offset, size;
+    std::int64_t value;
+    bool matters = false;
+};
+
+Bytes with(Bytes bytes, const Field& field, std::int64_t value) {
+    for (std::size_t i = 0; i < field.size; ++i)
+        bytes.at(field.offset + i) = static_cast<std::uint8_t>(value >> (8 * i));
+    return bytes;
+}
+
 Bytes part(const Bytes& bytes, std::ptrdiff_t from, std::ptrdiff_t to) {
     return {bytes.begin() + from, bytes.begin() + to};
 }
 
-// The 54 bytes before the pixels.
-Bytes headers(std::uint8_t width_low, std::uint8_t width_high, std::uint8_t height_low,
-              std::uint8_t height_high) {
-    return {'B',        'M',         0, 0,  0, 0,    0,    0,         0,          0,    54,
-            0,          0,           0, 40, 0, 0,    0,    width_low, width_high, 0,    0,
-            height_low, height_high, 0, 0,  1, 0,    24,   0,         0,          0,    0,
-            0,          0,           0, 0,  0, 0x12, 0x0B, 0,         0,          0x12, 0x0B,
-            0,          0,           0, 0,  0, 0,    0,    0,         0,          0};
-}
+const Bytes thermal = row_image(std::vector<Colour>(320, RGB(1, 2, 255)));
+const Bytes sea = row_image(std::vector<Colour>(250, RGB(255, 255, 255)));
+const Bytes hvc = hvc_image(std::vector<Colour>(100, RGB(200, 100, 1)));
 
 } // namespace
 
-TEST(PaletteImage, ARowIsHeadersPixelsInBlueGreenRedAndPaddingOfZeros) {
-    std::vector<Colour> cells(320, RGB(255, 2, 1));
-    cells.back() = RGB(7, 8, 9);
-    const Bytes thermal = row_image(cells);
-    ASSERT_EQ(thermal.size(), 1014U);
-    EXPECT_EQ(part(thermal, 0, 54), headers(0x40, 1, 1, 0));
-    EXPECT_EQ(part(thermal, 1008, 1014), (Bytes{1, 2, 255, 9, 8, 7}));
-
-    const Bytes sea = row_image(std::vector<Colour>(250, RGB(255, 255, 255)));
-    ASSERT_EQ(sea.size(), 806U);
-    EXPECT_EQ(part(sea, 0, 54), headers(250, 0, 1, 0));
-    EXPECT_EQ(part(sea, 801, 806), (Bytes{255, 255, 255, 0, 0}));
+TEST(PaletteImage, IsKnownByItsTypeAndSizeAmongItsHeaders) {
+    const std::tuple<const Bytes&, ScaleKind, std::size_t, int, int> images[]{
+        {thermal, ScaleKind::thermal, 1014, 320, 1},
+        {sea, ScaleKind::sea, 806, 250, 1},
+        {hvc, ScaleKind::hvc, 76854, 100, 256}};
+    for (const auto& [image, kind, size, width, height] : images) {
+        EXPECT_EQ(image.size(), size);
+        EXPECT_EQ(palette_layout(image)->kind, kind);
+        for (const Field& field : {Field{"bfType", 0, 2, 0x4D42, true},
+                                   {"bfSize, bfReserved1, bfReserved2", 2, 8, 0},
+                                   {"bfOffBits", 10, 4, 54},
+                                   {"biSize", 14, 4, 40},
+                                   {"biWidth", 18, 4, width, true},
+                                   {"biHeight", 22, 4, height, true},
+                                   {"biPlanes", 26, 2, 1},
+                                   {"biBitCount", 28, 2, 24},
+                                   {"biCompression, biSizeImage", 30, 8, 0},
+                                   {"biXPelsPerMeter", 38, 4, 2834},
+                                   {"biYPelsPerMeter", 42, 4, 2834},
+                                   {"biClrUsed, biClrImportant", 46, 8, 0}}) {
+            EXPECT_EQ(with(image, field, field.value), image) << field.name << " of " << size;
+            EXPECT_NE(palette_layout(with(image, field, -1)).has_value(), field.matters)
+                << field.name << " of " << size;
+        }
+    }
+    EXPECT_FALSE(palette_layout(with(thermal, {"biHeight", 22, 4, 1}, 256))); // that of HVC
+    EXPECT_FALSE(palette_layout(part(thermal, 0, 53)));
+    EXPECT_FALSE(is_bitmap(part(thermal, 0, 1)));
 }
 
-TEST(PaletteImage, HvcRowsAreStoredFromTheDarkestUp) {
-    const std::vector<Colour> below(100, RGB(200, 100, 0));
-    const std::vector<Colour> above(100, RGB(200, 100, 1));
-    const Bytes image = hvc_image(below, above);
-    ASSERT_EQ(image.size(), 76854U);
-    EXPECT_EQ(part(image, 0, 54), headers(100, 0, 0, 1));
-    EXPECT_EQ(part(image, 54, 57), (Bytes{0, 0, 72}));
-    EXPECT_EQ(part(image, 54 + 128 * 300 - 3, 54 + 128 * 300 + 3),
-              (Bytes{0, 99, 199, 1, 100, 200}));
-    EXPECT_EQ(part(image, 76851, 76854), (Bytes{128, 227, 255}));
+TEST(PaletteImage, HasPixelsInBlueGreenRed) {
+    EXPECT_EQ(part(thermal, 54, 57), (Bytes{255, 2, 1}));
+    EXPECT_EQ(part(sea, 803, 806), (Bytes{255, 0, 0})); // padded with zeros
+    // From the darkest row up to the lightest; row 127 has the cells' own colours.
+    EXPECT_EQ(part(hvc, 54, 57), (Bytes{0, 0, 72}));
+    EXPECT_EQ(part(hvc, hvc_row_127 - 3, hvc_row_127 + 3), (Bytes{0, 99, 199, 1, 100, 200}));
+    EXPECT_EQ(part(hvc, 76851, 76854), (Bytes{128, 227, 255}));
 }
 
-TEST(PaletteReading, OnlyTheSizeInACompleteHeaderNamesThePalette) {
-    const Bytes good = headers(0x40, 1, 1, 0);
-    EXPECT_FALSE(is_bitmap(part(good, 0, 1)));
-    EXPECT_FALSE(is_bitmap(Bytes{'b', 'M'}));
-    const auto kind = [](const Bytes& bytes) {
-        const auto layout = palette_layout(bytes);
-        return layout ? std::optional(layout->kind) : std::nullopt;
-    };
-    EXPECT_EQ(kind(part(good, 0, 53)), std::nullopt);
-    Bytes odd = good;
-    std::fill(odd.begin() + 2, odd.begin() + 18, std::uint8_t{124});
-    std::fill(odd.begin() + 26, odd.end(), std::uint8_t{8});
-    EXPECT_EQ(kind(odd), ScaleKind::thermal);
-    EXPECT_EQ(kind(headers(250, 0, 1, 0)), ScaleKind::sea);
-    EXPECT_EQ(kind(headers(100, 0, 0, 1)), ScaleKind::hvc);
-    std::fill(odd.begin() + 22, odd.begin() + 26, std::uint8_t{0xFF});
-    EXPECT_EQ(kind(odd), std::nullopt); // stored top down, height -1
-}
-
-TEST(PaletteReading, PixelsStandInStepsOfFourBytesAfterTheHeaders) {
-    const std::pair<std::int32_t, long> cases[]{
-        {54, 54}, {-1, 54}, {57, 54}, {58, 58}, {138, 138}, {INT32_MAX, 2147483646},
-    };
+TEST(PaletteImage, PixelsStandInStepsOfFourBytesAfterTheHeaders) {
+    const std::pair<std::int64_t, long> cases[]{{54, 54}, {-1, 54},   {57, 54},
+                                                {58, 58}, {138, 138}, {INT32_MAX, 2147483646}};
     for (const auto& [bfOffBits, offset] : cases) {
-        Bytes bytes = headers(0x40, 1, 1, 0);
-        for (int i = 0; i < 4; ++i)
-            bytes[10U + i] = static_cast<std::uint8_t>(bfOffBits >> 8 * i);
-        const auto layout = palette_layout(bytes);
-        EXPECT_EQ(layout ? layout->pixels_offset : -1, offset) << bfOffBits;
+        const Bytes file = with(thermal, {"bfOffBits", 10, 4, 54}, bfOffBits);
+        EXPECT_EQ(palette_layout(file)->pixels_offset, offset) << bfOffBits;
     }
 }
 

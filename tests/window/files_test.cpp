@@ -3,91 +3,154 @@
 #include "scale_editor/qt_values.h"
 
 #include <QFile>
+#include <sys/resource.h>
 
 namespace cirrava {
 
 namespace {
 
+// Does `action` while the process may write only so many bytes into a file.
+void with_room_for(rlim_t bytes, const std::function<void()>& action) {
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit lowered{.rlim_cur = bytes, .rlim_max = before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &lowered);
+    action();
+    setrlimit(RLIMIT_FSIZE, &before);
+}
+
+const QString not_created(" A problem occured during file creation");
+
 class Files : public WindowTest {
 protected:
-    // What is asked and told when `button` is pressed, by its key, and the user answers so.
-    QString heard_of(const QString& button, const std::optional<QString>& path, bool yes = true) {
-        user.heard.clear();
+    // Presses the keys of a file button and returns what the user sees, who answers so.
+    QStringList seen_after(Qt::Key key, const std::optional<QString>& path, bool yes = true) {
+        user.saw.clear();
         user.path = path;
         user.yes = yes;
-        QTest::keySequence(&window, Qt::CTRL | (button == "Command5" ? Qt::Key_O : Qt::Key_S));
-        return user.heard.join("; ")
-            .replace(folder.path(), "HERE")
-            .replace(QCoreApplication::applicationDirPath(), "PROGRAM");
-    }
-
-    // On the chosen scale: no dialog answered, no file wanted, one written and read back over
-    // black. `colour` is what cells come back in that were white.
-    void write_and_read(const char* choose, const char* generate, CellArray& cells,
-                        const QString& dialog, int size, Colour colour) {
-        const QImage& picture = find<PictureBox>("Picture1").image();
-        const QFileInfo file(folder.filePath("a.bmp"));
-        const QString question = dialog + ".bmp of *.bmp in PROGRAM; ";
-        const QString verb = file.exists() ? "OVERWRITE" : "Write";
-        const qint64 size_before = file.size();
-        press(choose);
-        EXPECT_EQ(heard_of(generate, std::nullopt), question + "Operation Cancelled");
-        EXPECT_EQ(heard_of(generate, file.filePath(), false),
-                  question + "Ready to create: " + verb + " HERE/a.bmp?");
-        EXPECT_EQ(QFileInfo(file.filePath()).size(), size_before);
-        EXPECT_TRUE(picture.isNull());
-        select(cells, 7, 9);
-        apply(0);
-        heard_of(generate, file.filePath());
-        EXPECT_EQ(QFileInfo(file.filePath()).size(), size);
-        apply(5);
-        press("Sea_butt");
-        EXPECT_EQ(heard_of("Command5", file.filePath()),
-                  "Read and Load palette: a.bmp of *.bmp in HERE");
-        EXPECT_EQ(caption("Label5"), "Sea");
-        press(choose);
-        heard_of(generate, file.filePath()); // which shows the cells, and changes none
-        EXPECT_EQ(cells.colour(8), colour);
-        EXPECT_TRUE(picture.isNull() || picture.pixelColor(8, 127) == to_qt(colour));
-        QTest::keySequence(&window, QKeySequence::Undo);
-        EXPECT_EQ(cells.colour(8), 0);
+        press(Qt::CTRL | key);
+        user.saw.replaceInStrings(folder.path(), "HERE")
+            .replaceInStrings(QCoreApplication::applicationDirPath(), "PROGRAM");
+        return user.saw;
     }
 };
 
 } // namespace
 
 TEST_F(Files, AreAskedForWrittenAndReadBack) {
-    EXPECT_EQ(heard_of("Command5", std::nullopt),
-              "Read and Load palette:  of *.bmp in PROGRAM; Operation Cancelled");
-    write_and_read("thermal_butt", "thermal_command", thermal(), "Create Thermal: thermal", 1014,
-                   0xFFFFFF);
-    // Over the Thermal file, whose end stays.
-    write_and_read("Sea_butt", "sea_command", sea(), "Create Sea Surface Palette: sea", 1014,
-                   0xFFFFFF);
-    write_and_read("hvc_butt", "hvc_command", hvc(), "Create HVC Palette: hvc", 76854, 0xFDFDFD);
-    EXPECT_TRUE(QFile::exists("~~temphvc.bmp"));
+    const QString file = folder.filePath("a.bmp");
+    EXPECT_EQ(seen_after(Qt::Key_O, std::nullopt),
+              (QStringList{"Read and Load palette:  of *.bmp in PROGRAM", "Operation Cancelled"}));
+    const std::tuple<const char*, CellArray&, const char*, int, Colour> scales[]{
+        // the button, the cells, the dialog, the file's size, the colour read back
+        {"click thermal_butt", thermal(), "Create Thermal: thermal", 1014, 0x030201},
+        {"click Sea_butt", sea(), "Create Sea Surface Palette: sea", 1014,
+         0x030201}, // over a longer one
+        {"click hvc_butt", hvc(), "Create HVC Palette: hvc", 76854, 0x010000}};
+    for (const auto& [choose, cells, title, size, read] : scales) {
+        const QString question = QString(title) + ".bmp of *.bmp in PROGRAM";
+        const QString verb = QFile::exists(file) ? "OVERWRITE" : "Write";
+        act(choose);
+        EXPECT_EQ(seen_after(Qt::Key_S, {}), (QStringList{question, "Operation Cancelled"}));
+        EXPECT_EQ(seen_after(Qt::Key_S, file, false),
+                  (QStringList{question, "Ready to create: " + verb + " HERE/a.bmp?"}));
+        EXPECT_EQ(QFile::exists(file), verb == "OVERWRITE");
+        EXPECT_TRUE(preview().isNull());
+        cells.fill({7, 9}, 0x030201);
+        seen_after(Qt::Key_S, file);
+        EXPECT_EQ(QFileInfo(file).size(), size);
+        cells.fill({0, 99}, 0);
+        act("click Sea_butt");
+        EXPECT_EQ(seen_after(Qt::Key_O, file),
+                  QStringList{"Read and Load palette: a.bmp of *.bmp in HERE"});
+        EXPECT_EQ(text("Label5"), "Sea");
+        EXPECT_EQ(cells.colours().mid(8, 3), (QList<Colour>{read, read, 0}));
+    }
+    EXPECT_EQ(preview().pixelColor(9, 127), to_qt(0x030201));
 }
 
 TEST_F(Files, DamagedOnesAreToldAndLoadAsFarAsTheyGo) {
-    // What is told, and cell 99 of Thermal and HVC afterwards.
-    const auto load = [this](const char* name) {
-        const QString heard = heard_of("Command5", QString(CORPUS "/%1.bmp").arg(name));
-        return heard.section("; ", 1) + QString("|%1|%2")
-                                            .arg(thermal().colour(99), 6, 16, QChar('0'))
-                                            .arg(hvc().colour(99), 6, 16, QChar('0'));
-    };
     const QString not_ours = "Not a Cirrava PAL file... It's probably corrupted";
-    EXPECT_EQ(load("text"), "Selected file is not a color palette|000000|000000");
-    EXPECT_EQ(load("two-bytes"), not_ours + "|000000|000000");
-    EXPECT_EQ(load("other-size"), not_ours + "|000000|000000");
-    EXPECT_EQ(load("thermal-of-100-cells"), "|0000ff|000000");
+    const Colour red = RGB(255, 0, 0), grey = RGB(88, 88, 88);
+    const std::tuple<const char*, QString, Colour, Colour> files[]{
+        // the name, the message, cells 99 of Thermal and of HVC afterwards
+        {"text", "Selected file is not a color palette", 0, 0},
+        {"two-bytes", not_ours, 0, 0},
+        {"other-size", not_ours, 0, 0},
+        {"thermal-of-100-cells", "", red, 0},
+        {"hvc-too-short", "Error # 62 Cannot Read File", red, 0},
+        {"hvc-just-long-enough", "", red, grey},
+        {"hvc-too-many-colours", "Error # 481 Cannot Read File", red, grey}};
+    for (const auto& [name, message, thermal_cell, hvc_cell] : files) {
+        const QStringList seen = seen_after(Qt::Key_O, QString(CORPUS "/%1.bmp").arg(name));
+        EXPECT_EQ(seen.value(1), message) << name;
+        EXPECT_EQ(thermal().colour(99), thermal_cell) << name;
+        EXPECT_EQ(hvc().colour(99), hvc_cell) << name;
+    }
     EXPECT_EQ(thermal().colour(100), 0);
-    EXPECT_EQ(load("hvc-too-short"), "Error # 62 Cannot Read File|0000ff|000000");
-    EXPECT_EQ(load("hvc-just-long-enough"), "|0000ff|585858");
-    EXPECT_EQ(load("hvc-too-many-colours"), "Error # 481 Cannot Read File|0000ff|585858");
-    const QImage& picture = find<PictureBox>("Picture1").image();
-    EXPECT_EQ(picture.pixel(50, 255 - 126), qRgb(88, 88, 88));
-    EXPECT_EQ(picture.pixel(50, 255 - 127), qRgb(0, 0, 0)); // the rows that the file lacks
+    EXPECT_EQ(preview().pixel(50, 255 - 126), qRgb(88, 88, 88));
+    EXPECT_EQ(preview().pixel(50, 255 - 127), qRgb(0, 0, 0)); // the rows that the file lacks
+}
+
+TEST_F(Files, ThatFailAreToldByNumberAndChangeNothing) {
+    const auto expect_failure = [&](Qt::Key key, const QString& message) {
+        const QImage before = window.grab().toImage();
+        EXPECT_EQ(seen_after(key, folder.path()).last(), message);
+        EXPECT_TRUE(window.grab().toImage() == before);
+    };
+    expect_failure(Qt::Key_S, "Error# 75" + not_created);
+    act("click Sea_butt");
+    expect_failure(Qt::Key_S, "Error # 75" + not_created);
+    paint("Label3", 5, 50, 20);
+    expect_failure(Qt::Key_S, "Error # 75" + not_created);
+    expect_failure(Qt::Key_O, "Error # 75 Cannot Read File");
+    QFile hidden(folder.filePath(".hidden.bmp")); // does not count as there
+    EXPECT_TRUE(hidden.open(QIODevice::WriteOnly));
+    EXPECT_EQ(seen_after(Qt::Key_S, hidden.fileName()).last(),
+              "Ready to create: Write HERE/.hidden.bmp?");
+    for (const QFileInfo& open : QDir("/proc/self/fd").entryInfoList())
+        EXPECT_TRUE(!open.symLinkTarget().startsWith(folder.path()) ||
+                    open.symLinkTarget() == hidden.fileName());
+}
+
+TEST_F(Files, AreToldOfAFullDisk) {
+    paint("Label3", 5, 50, 20);
+    with_room_for(50, [&] { // not even for the headers
+        EXPECT_EQ(seen_after(Qt::Key_S, "a.bmp").last(), "Error # 61" + not_created);
+        brightness().setValue(6);
+        EXPECT_EQ(hvc().colour(5), RGB(255, 255, 0));
+    });
+    with_room_for(76'853, [&] { // for all but the last byte
+        brightness().setValue(4);
+        EXPECT_EQ(user.saw.last(), "Error # 61" + not_created);
+        EXPECT_EQ(hvc().colour(5), RGB(250, 250, 0));
+    });
+    seen_after(Qt::Key_S, "a.bmp"); // and when there is room again, it is written
+    EXPECT_EQ(QFile("a.bmp").size(), 76854);
+}
+
+TEST_F(Files, ARemovedCurrentFolderFailsThePreviewOnly) {
+    EXPECT_TRUE(QDir().mkdir("gone"));
+    QDir::setCurrent("gone");
+    EXPECT_TRUE(QDir(folder.path()).rmdir("gone"));
+    act("left Label3 5, right Label3 50");
+    brightness().setValue(7); // neither the shifted image nor the preview
+    EXPECT_EQ(user.saw, QStringList(2, "Error # 76" + not_created));
+    act("click color(0), click Command2");
+    EXPECT_EQ(preview().pixel(5, 127), qRgb(255, 255, 255));
+    press(QKeySequence::Undo);
+    EXPECT_EQ(user.saw.size(), 3); // an undo that succeeds tells nothing
+    EXPECT_EQ(preview().pixel(5, 127), qRgb(0, 0, 0));
+}
+
+TEST_F(Files, AreChosenWhereTheUserMayWrite) {
+    CommonDialog dialog(user.dialogs());
+    dialog.CancelError = true;
+    dialog.InitDir = "/no/such/folder";
+    user.path = "a.bmp";
+    dialog.ShowSave();
+    EXPECT_TRUE(user.saw.last().contains(" in " + QDir::homePath()))
+        << user.saw.last().toStdString();
 }
 
 } // namespace cirrava

@@ -8,16 +8,50 @@ namespace cirrava {
 
 namespace {
 
+// The colours of a window by the points of its layout.
+struct Screenshot {
+    explicit Screenshot(QWidget& window) : image(window.grab().toImage()) {}
+    QColor at(QPointF point) const {
+        const QPointF pixel = point * image.devicePixelRatio();
+        return image.pixelColor(qFloor(pixel.x()), qFloor(pixel.y()));
+    }
+    QImage image;
+};
+
 class Layout : public WindowTest {
 protected:
-    QList<QWidget*> controls() const {
-        return window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    // Of a control by its caption or its name.
+    QRect place(const QString& control) {
+        for (const auto* other : window.findChildren<QWidget*>())
+            if (other->property("text") == control)
+                return other->geometry();
+        return find(control).geometry();
+    }
+
+    // Of controls, each right of the one before it, or below it, and in line with it.
+    void expect_line(const QString& controls, bool down = false) {
+        QPoint last;
+        for (const QString& control : controls.split(", ")) {
+            const QPoint centre = place(control).center();
+            const QPoint here = down ? centre.transposed() : centre;
+            EXPECT_TRUE(last.isNull() || (here.x() > last.x() && qAbs(here.y() - last.y()) < 7))
+                << control.toStdString();
+            last = here;
+        }
+    }
+
+    void click_at(QPointF point) {
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, point, window.mapToGlobal(point), Qt::LeftButton,
+                              Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(window.windowHandle(), &event);
+        }
     }
 };
 
 } // namespace
 
-TEST_F(Layout, EveryCaptionFitsItsBox) {
+TEST_F(Layout, CaptionsFitTheirBoxes) {
     find<QLabel>("Label15").setText("255");
     for (const auto* label : window.findChildren<QLabel*>()) {
         EXPECT_LE(label->minimumSizeHint().width(), label->width() + 1); // the widest word
@@ -32,29 +66,71 @@ TEST_F(Layout, EveryCaptionFitsItsBox) {
     }
 }
 
-TEST_F(Layout, CaptionsHaveTheirTextsAndColours) {
-    const QImage picture = window.grab().toImage();
-    const auto look_of = [&](const char* name) {
-        const auto& label = find<QLabel>(name);
-        const QPoint corner = label.geometry().bottomRight() * picture.devicePixelRatio();
-        return label.text() + ' ' + label.palette().color(QPalette::WindowText).name() + " on " +
-               picture.pixelColor(corner).name();
-    };
-    EXPECT_EQ(look_of("Label12"), "Red #ff0000 on #f0f0f0");
-    EXPECT_EQ(look_of("Label5"), "Thermal #000000 on #00ff00");
-    EXPECT_EQ(look_of("Label19"), "-10 to 39.8 in 0.2C Intervals #000000 on #c0ffff");
-    EXPECT_EQ(caption("SS(12)") + caption("hvc(5)"), "38C/100.4F39C/102.2F");
-    QString captions, faces;
-    for (const auto* button : window.findChildren<Button*>()) {
-        captions += button->text();
-        faces += button->face().name();
+TEST_F(Layout, ControlsStandInLine) {
+    for (const char* row :
+         {"Image1, Cirrava PAL",
+          "-110C to 49.5C in 0.5C Intervals , Generate Thermal Palette, HVC Palette ",
+          "Sea Surface, -10 to 39.8 in 0.2C Intervals, Generate Sea Surface Palette",
+          "HVC, -60 to 39 in 1C intervals, Click here for more info, Generate HVC Palette, Darker, "
+          "HScroll4, Lighter",
+          "Now Working, Label5, color(0)",
+          "Start, Text1, Label8, End, Text2, Label9, Red, HScroll1, Label15",
+          "Text3, Label10, Text4, Label11, Green, HScroll2, Label16",
+          "Reset, Blue, HScroll3, Label17", "Advanced Color Picker, sample, Apply Color",
+          "About, How to Use, Load From File, Quit"})
+        expect_line(row);
+    for (const char* column :
+         {"Text1, Text3", "Text2, Text4", "Label8, Label10", "Label9, Label11",
+          "HVC Brightness, HScroll4", "HScroll1, HScroll2, HScroll3", "Label15, Label16, Label17",
+          "Label22, Label23, Label24, Label25, Label26", "thermal_char, Label2, Label3"})
+        expect_line(column, true);
+}
+
+TEST_F(Layout, ControlsDoNotOverlap) {
+    QList<QWidget*> others = window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (const CellArray* cells : {&thermal(), &sea(), &hvc()})
+        others.removeOne(cells); // which lie over the temperatures between their rows
+    while (!others.isEmpty()) {
+        const auto* one = others.takeLast();
+        EXPECT_TRUE(window.rect().contains(one->geometry())) << qPrintable(one->objectName());
+        for (const auto* other : others) {
+            const QRect shared = one->geometry() & other->geometry(); // neighbours share an edge
+            EXPECT_LE(std::min(shared.width(), shared.height()), 2)
+                << qPrintable(one->objectName() + " and " + other->objectName());
+        }
     }
-    EXPECT_EQ(captions, "ThermalSea SurfaceHVCGenerate Thermal PaletteGenerate Sea Surface Palette"
-                        "Generate HVC PaletteClick here for more infoResetAdvanced Color Picker"
-                        "Apply ColorAboutHow to UseLoad From FileQuit");
-    EXPECT_EQ(qChecksum(faces.toLatin1()), 20347); // of green, yellow and the presets
-    EXPECT_EQ(find<Button>("Command2").toolTip(), "Click to apply color to range selected");
-    EXPECT_FALSE(find<QLabel>("Image1").pixmap().isNull());
+}
+
+TEST_F(Layout, TemperaturesStandUnderTheirCells) {
+    const std::tuple<const char*, CellArray&, int, double, double> scales[]{
+        {"T1C", thermal(), 17, 0.5, -110}, {"SS", sea(), 14, 0.2, -10}, {"hvc", hvc(), 6, 1, -60}};
+    for (const auto& [name, cells, count, step, first] : scales)
+        for (int i = 0; i < count; ++i) {
+            const auto& label = find<QLabel>(QString("%1(%2)").arg(name).arg(i));
+            const int cell = std::min(20 * i, cell_count(cells.kind()) - 1);
+            const QRect box = cells.cell_box(cell).translated(cells.pos());
+            const double celsius = cell * step + first;
+            EXPECT_EQ(label.text(), QString("%1C/%2F").arg(celsius).arg(celsius * 1.8 + 32));
+            EXPECT_NEAR(label.x(), box.x(), box.width() / 2 + 1) << label.text().toStdString();
+            EXPECT_NEAR(label.y(), box.bottom(), 1) << label.text().toStdString();
+        }
+}
+
+TEST_F(Layout, PresetsGoFromLightToDarkInEightGroups) {
+    const QString colours = "#ffffff #e0e0e0 #c0c0c0 #808080 #404040 #000000 "
+                            "#ffc0c0 #ff8080 #ff0000 #c00000 #800000 #400000 "
+                            "#ffe0c0 #ffc080 #ff8000 #c04000 #804000 #804040 "
+                            "#ffffc0 #ffff80 #ffff00 #c0c000 #808000 #404000 "
+                            "#c0ffc0 #80ff80 #00ff00 #00c000 #008000 #004000 "
+                            "#c0ffff #80ffff #00ffff #00c0c0 #008080 #004040 "
+                            "#c0c0ff #8080ff #0000ff #0000c0 #000080 #000040 "
+                            "#ffc0ff #ff80ff #ff00ff #c000c0 #800080 #400040";
+    QPointF middle = place("color(0)").center();
+    for (const QString& colour : colours.split(' ')) {
+        click_at(middle);
+        EXPECT_EQ(swatch().name(), colour);
+        middle.rx() += (place("color(47)").x() - place("color(0)").x()) / 47.;
+    }
 }
 
 TEST_F(Layout, TabGoesThroughAllControlsInOrder) {
@@ -65,7 +141,7 @@ TEST_F(Layout, TabGoesThroughAllControlsInOrder) {
                             .split(' ');
     for (int i = 0; i < 48; ++i)
         order.insert(16 + i, QString("color(%1)").arg(i));
-    for (auto* control : controls())
+    for (auto* control : window.findChildren<QWidget*>())
         control->setEnabled(true);
     QStringList spoken;
     for (const QString& name : order) {
@@ -76,81 +152,96 @@ TEST_F(Layout, TabGoesThroughAllControlsInOrder) {
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     }
     EXPECT_EQ(spoken.removeDuplicates(), 1); // the first, come round
-    EXPECT_EQ(box(1) + box(2) + box(3) + box(4), "");
+    EXPECT_EQ(text("Text1") + text("Text2") + text("Text3") + text("Text4"), "");
 }
 
-TEST_F(Layout, ControlsStandInTheWindowSideBySide) {
-    QList<QWidget*> others = controls();
-    for (const CellArray* cells : {&thermal(), &sea(), &hvc()})
-        others.removeOne(cells); // which lie over the temperatures between their rows
-    EXPECT_TRUE(window.screen()->availableGeometry().contains(QRect({}, window.size())));
-    while (!others.isEmpty()) {
-        const auto* one = others.takeLast();
-        EXPECT_TRUE(window.rect().contains(one->geometry())) << qPrintable(one->objectName());
-        for (const auto* other : others) {
-            const QRect shared = one->geometry() & other->geometry();
-            EXPECT_LE(std::min(shared.width(), shared.height()), 2) // neighbours may share an edge
-                << qPrintable(one->objectName() + " and " + other->objectName());
-        }
+TEST_F(Layout, EachPixelOfTheScreenBelongsToTheCellThatItShows) {
+    paint("thermal_char", 1, 1, 9);
+    const QRectF red = thermal().strip(1).translated(thermal().pos());
+    const Screenshot screenshot(window);
+    const double pixel = 1 / screenshot.image.devicePixelRatio();
+    for (double x = red.left() - 3 + pixel / 2; x < red.right() + 3; x += pixel) {
+        const bool within = x > red.left() && x < red.right();
+        EXPECT_EQ(screenshot.at({x, red.top() + 5.5}), within ? Qt::red : Qt::black) << x;
+        click_at({x, red.top() + 5.5});
+        EXPECT_EQ(text("Text1"), within ? "-109.5" : x < red.left() ? "-110.0" : "-109.0") << x;
     }
-    for (const int row : {0, 1, 2})
-        EXPECT_EQ(find<QWidget>(QString("Label%1").arg(12 + row)).y(),
-                  find<QWidget>(QString("HScroll%1").arg(1 + row)).y());
-}
-
-TEST_F(Layout, CellsAreCrispAndTouch) {
-    select(thermal(), 1, 1);
-    apply(9);
-    const QImage picture = window.grab().toImage();
-    const auto edge_of = [&](int cell) {
-        return qRound((thermal().x() + thermal().cell_box(cell).x()) * picture.devicePixelRatio());
-    };
-    const int y = qRound((thermal().y() + 8) * picture.devicePixelRatio());
     EXPECT_EQ(thermal().strip(99).right(), thermal().rect().right());
-    for (int x = edge_of(0); x < edge_of(3); ++x) {
-        const bool red = x >= edge_of(1) && x < edge_of(2);
-        EXPECT_EQ(picture.pixelColor(x, y), red ? Qt::red : Qt::black) << x;
-    }
 }
 
-TEST_F(Layout, ALineUnderCellsShowsWhichAreMarked) {
+TEST_F(Layout, CellsLieOverArrowsAndUnderButtons) {
+    click_at(thermal().pos() + thermal().cell_box(99).topRight() + QPoint(0, 8));
+    EXPECT_EQ(text("Text1"), "-60.5");
+    for (const char* button : {"thermal_command", "Sea_butt", "sea_command", "hvc_butt"})
+        click_at(find(button).geometry().bottomLeft() + QPoint(50, 0));
+    EXPECT_EQ(user.saw.filter("Create").size(), 2);
+    EXPECT_EQ(text("Label5") + text("Text1"), "HVC ");
+}
+
+TEST_F(Layout, LinesUnderCellsShowWhatIsMarkedAndWhatTheBrightnessChanges) {
     // Two points below each of the cells 19 to 22.
-    const auto line_of = [this](const CellArray& cells) {
-        const QImage picture = window.grab().toImage();
+    const auto lines_of = [this](CellArray& cells) {
+        const Screenshot screenshot(window);
         QString line;
         for (int cell = 19; cell <= 22; ++cell)
-            for (const double part : {0.1, 0.35}) {
+            for (const double part : {0.05, 0.17}) {
                 const QRectF box = cells.cell_box(cell).translated(cells.pos());
-                const double pitch = cells.cell_box(cell + 1).x() - cells.cell_box(cell).x();
-                const QPointF point(box.left() + part * pitch, box.bottom() + 0.5);
-                const QPointF pixel = point * picture.devicePixelRatio();
-                const QColor colour = picture.pixelColor(int(pixel.x()), int(pixel.y()));
-                line += colour == QColor(0, 95, 184) ? '-' : '.';
+                const QPointF point(box.left() + part * box.width(), box.bottom() + 0.5);
+                line += screenshot.at(point) == QColor(0, 95, 184) ? '-' : '.';
             }
         return line;
     };
-    select(thermal(), 20, 21);
-    EXPECT_EQ(line_of(thermal()), "..----..");
-    select(hvc(), 22, 20);
-    EXPECT_EQ(line_of(thermal()), "........");
-    EXPECT_EQ(line_of(hvc()), "..--..--");
-    select(hvc(), 20, 21);
-    press("Sea_butt");
-    press("hvc_butt"); // the boxes are blank, and the brightness would change the cells
-    EXPECT_EQ(line_of(hvc()), "..-.-...");
+    act("left thermal_char 20, right thermal_char 21");
+    EXPECT_EQ(lines_of(thermal()), "..----..");
+    act("left Label3 22, right Label3 20");
+    EXPECT_EQ(lines_of(thermal()), "........");
+    EXPECT_EQ(lines_of(hvc()), "..--..--");
+    act("click Command1"); // the whole scale
+    EXPECT_EQ(lines_of(hvc()), "-.-.-.-.");
+    act("right Label3 20");
+    EXPECT_EQ(lines_of(hvc()), "-.--....");
 }
 
 TEST_F(Layout, TheFocusShowsAroundAControlAndLeavesItsColour) {
     EXPECT_FALSE(window.findChild<QFocusFrame*>()->isVisible());
-    while (window.focusWidget() != &find<Swatch>("sample"))
+    while (window.focusWidget() != &find("sample"))
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
-    find<NumberBar>("HScroll1").setValue(254);
-    const QImage picture = window.grab().toImage();
-    const int line = qRound(picture.devicePixelRatio());
-    const QPoint edge = find<Swatch>("sample").pos() * picture.devicePixelRatio() + QPoint(0, 30);
-    EXPECT_EQ(picture.pixelColor(edge), Qt::black);
-    EXPECT_EQ(picture.pixelColor(edge + QPoint(line, 0)), Qt::white);
-    EXPECT_EQ(picture.pixelColor(edge + QPoint(4 * line, 0)), QColor(254, 0, 0));
+    find<Slider>("HScroll1").setValue(254);
+    const Screenshot screenshot(window);
+    const double density = screenshot.image.devicePixelRatio();
+    const double line = qRound(density) / density;
+    const QPointF edge = place("sample").topLeft() + QPointF(line / 2, 30);
+    EXPECT_EQ(screenshot.at(edge), Qt::black);
+    EXPECT_EQ(screenshot.at(edge + QPointF(line, 0)), Qt::white);
+    EXPECT_EQ(screenshot.at(edge + QPointF(4 * line, 0)), QColor(254, 0, 0));
+}
+
+TEST_F(Layout, TheWindowHasItsLook) {
+    EXPECT_TRUE(window.screen()->availableGeometry().contains(QRect({}, window.size())));
+    EXPECT_EQ(window.minimumSize(), window.maximumSize());
+    EXPECT_FALSE(window.windowIcon().isNull());
+    EXPECT_FALSE(find<QLabel>("Image1").pixmap().isNull());
+    EXPECT_EQ(find("Command2").toolTip(), "Click to apply color to range selected");
+    paint("Label3", 0, 99, 3); // grey 128, which is 0 in the lowest row of the preview
+    const Screenshot screenshot(window);
+    const double zoom = std::min(1.0, window.width() / 961.);
+    const QPointF preview = place("Picture1").topLeft() + QPointF(2, 2) + zoom * QPointF(50, 0);
+    EXPECT_LT(screenshot.at(preview + zoom * QPointF(0, 254.5)).red(), 3);
+    EXPECT_EQ(screenshot.at(preview + zoom * QPointF(0, 257.5)), QColor(240, 240, 240));
+    EXPECT_EQ(screenshot.at(place("Label22").center() + zoom * QPointF(2.5, 2.5)), Qt::red);
+    EXPECT_EQ(screenshot.at(place("Line1").center()), Qt::black);
+    const std::tuple<const char*, QColor, QColor, double> looks[]{
+        {"Label1", Qt::blue, {240, 240, 240}, 20.25}, {"Label32", Qt::blue, {240, 240, 240}, 8.25},
+        {"Label12", Qt::red, {240, 240, 240}, 12},    {"Label13", Qt::green, {240, 240, 240}, 12},
+        {"Label14", Qt::blue, {240, 240, 240}, 12},   {"Label18", Qt::black, {192, 255, 255}, 8.25},
+        {"Label5", Qt::black, Qt::green, 8.25},       {"hvc_butt", Qt::black, Qt::green, 13.5},
+        {"hvc_help", Qt::black, Qt::yellow, 8.25}};
+    for (const auto& [name, ink, ground, points] : looks) {
+        const QWidget& control = find(name);
+        EXPECT_EQ(control.palette().color(control.foregroundRole()), ink) << name;
+        EXPECT_EQ(screenshot.at(control.geometry().bottomRight() - QPoint(2, 2)), ground) << name;
+        EXPECT_NEAR(control.font().pointSizeF() / window.font().pointSizeF(), points / 8.25, 0.01);
+    }
 }
 
 } // namespace cirrava

@@ -20,27 +20,24 @@ struct User {
     std::optional<QString> path; // nothing: the user cancels
     std::optional<QColor> colour;
     bool yes = true;
-    QStringList heard; // what was asked and told, in order
+    QStringList saw; // the dialogs and messages, in order
 
     Dialogs dialogs() {
         const auto choose_file = [this](const FileQuestion& question) {
             const auto& [title, filter, folder, name] = question;
-            heard << title + ": " + name + " of " + filter + " in " + folder;
+            saw << title + ": " + name + " of " + filter + " in " + folder;
             return path;
         };
+        const auto choose_colour = [this](const QColor& initial) {
+            saw << initial.name();
+            return colour;
+        };
         const auto ask = [this](const QString& text, const QString& title) {
-            heard << title + ": " + text;
+            saw << title + ": " + text;
             return yes;
         };
-        return {.open = choose_file,
-                .save = choose_file,
-                .colour =
-                    [this](const QColor& initial) {
-                        heard << initial.name();
-                        return colour;
-                    },
-                .ask = ask,
-                .tell = [this](const QString& text) { heard << text; }};
+        const auto tell = [this](const QString& text) { saw << text; };
+        return {choose_file, choose_file, choose_colour, ask, tell};
     }
 };
 
@@ -59,7 +56,7 @@ template <class Dialog> void in_next(const std::function<void(Dialog&)>& action)
 }
 
 // The control of that name.
-template <class Control> Control& find_in(const QWidget& window, const QString& name) {
+template <class Control = QWidget> Control& find_in(const QWidget& window, const QString& name) {
     auto* const control = window.findChild<Control*>(name);
     if (control == nullptr)
         qFatal("no control %s", qPrintable(name));
@@ -76,34 +73,55 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
-    template <class Control> Control& find(const QString& name) {
+    template <class Control = QWidget> Control& find(const QString& name) {
         return find_in<Control>(window, name);
     }
+    QString text(const QString& control) { return find(control).property("text").toString(); }
     CellArray& thermal() { return find<CellArray>("thermal_char"); }
     CellArray& sea() { return find<CellArray>("Label2"); }
     CellArray& hvc() { return find<CellArray>("Label3"); }
-    NumberBar& brightness() { return find<NumberBar>("HScroll4"); }
-    QString box(int number) { return find<QLineEdit>(QString("Text%1").arg(number)).text(); }
-    QString caption(const QString& label) { return find<QLabel>(label).text(); }
+    Slider& brightness() { return find<Slider>("HScroll4"); }
     QColor swatch() { return find<Swatch>("sample").colour(); }
+    QImage preview() { return find<PictureBox>("Picture1").image(); }
 
-    void press(const QString& button) { QTest::mouseClick(&find<Button>(button), Qt::LeftButton); }
-    static QPoint inside(CellArray& cells, int cell) {
-        return cells.cell_box(cell).topLeft() + QPoint(3, 5);
+    void press(const QKeySequence& keys) { QTest::keySequence(window.focusWidget(), keys); }
+    static QPoint inside(const CellArray& cells, int cell) { // of the window
+        return cells.pos() + cells.cell_box(cell).topLeft() + QPoint(3, 5);
     }
-    static void select(CellArray& cells, int start, int end) {
-        QTest::mouseClick(&cells, Qt::LeftButton, {}, inside(cells, start));
-        QTest::mouseClick(&cells, Qt::RightButton, {}, inside(cells, end));
+
+    // Does what a user does, step by step: "click Command1, press Text1 Ctrl+End" or, with a button
+    // of the mouse, "left thermal_char 220"; "double" is a double click with the left one.
+    void act(const QString& steps) {
+        for (const QString& step : steps.split(", "))
+            act(step.split(' '));
     }
-    // Gives the marked cells the colour of a preset, by the key for it.
-    void apply(int preset) {
-        press(QString("color(%1)").arg(preset));
-        QTest::keySequence(&window, Qt::CTRL | Qt::Key_Return);
+
+    // Gives the cells `first` to `last` the colour of a preset.
+    void paint(const QString& scale, int first, int last, int preset) {
+        act(QString("left %1 %2, right %1 %3").arg(scale).arg(first).arg(last));
+        act(QString("click color(%1), click Command2").arg(preset));
     }
 
     User user;
     QTemporaryDir folder;
     Cirrava window{user.dialogs()};
+
+private:
+    void act(const QStringList& words) {
+        if (words[0] == "press") {
+            find(words[1]).setFocus();
+            return press(QKeySequence(words[2]));
+        }
+        if (words[0] == "click")
+            return QTest::mouseClick(&find(words[1]), Qt::LeftButton);
+        const QPoint point = inside(find<CellArray>(words[1]), words[2].toInt());
+        const auto button = words[0] == "right"    ? Qt::RightButton
+                            : words[0] == "middle" ? Qt::MiddleButton
+                                                   : Qt::LeftButton;
+        QTest::mouseClick(window.windowHandle(), button, {}, point);
+        if (words[0] == "double")
+            QTest::mouseDClick(window.windowHandle(), button, {}, point);
+    }
 };
 
 } // namespace cirrava

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "scale_editor/range.h"
+#include "scale_editor/range_box.h"
+#include "scale_editor/scale_controls.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QList>
+#include <optional>
+
+namespace cirrava {
+
+// The working scale and the range of its cells that a colour is for, with all that shows them:
+// `Label5`, the controls that belong to one scale only, the boxes and the lines under the cells.
+class Selection {
+public:
+    // One side of the range.
+    struct Bound {
+        RangeBox& celsius;
+        QLineEdit& fahrenheit;
+        int cell = 0;       // of the scale that was clicked last
+        bool shown = false; // in the boxes; then it is a cell of the working scale
+    };
+
+    Selection(const AllScales& scales, QLabel& Label5, const Bound& range_start,
+              const Bound& range_end);
+
+    const ScaleControls& working_scale() const { return *working_scale_; }
+
+    // Makes `scale` the working scale and blanks the boxes, unless it is that already.
+    void choose(const ScaleControls& scale);
+
+    // Marks `cell` as that side of the range and makes `scale` the working scale.
+    void mark(const ScaleControls& scale, int cell, Side side);
+
+    // Moves that side by so many cells of the working scale and stops at its first and last. A side
+    // that is blank goes to the cell of the other side, or else to the first cell.
+    void step(Side side, int cells);
+    void send_to_coldest(Side side);
+    void send_to_warmest(Side side);
+
+    // Takes the whole HVC scale for the range and blanks the boxes.
+    void reset();
+
+    // The cell of the working scale that the boxes of that side show, if they show one.
+    std::optional<int> cell_of(Side side) const;
+
+    // The cells of the working scale that a colour is for. Nothing unless both sides are shown and
+    // the start is not above the end.
+    std::optional<Range> range() const;
+
+    // The cells of the working scale that the brightness slider changes, whatever the boxes show;
+    // none unless that is the HVC scale.
+    Range brightness_range() const;
+
+private:
+    QList<Range> marked_cells() const;
+    void blank();
+    void show_working_scale();
+    void show_range();
+
+    const AllScales& scales_;
+    QLabel& Label5_;
+    const ScaleControls* working_scale_;
+    Bound range_start_, range_end_; // in any order
+};
+
+} // namespace cirrava

@@ -1,0 +1,58 @@
+#include "platform/binary_file.h"
+#include "platform/failure.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace cirrava {
+
+namespace {
+
+// The number of the failure to open a file, or 0.
+int number_of(const std::string& path, FileAccess access) {
+    try {
+        BinaryFile(path, access);
+        return 0;
+    } catch (const Failure& failure) {
+        return static_cast<int>(failure.number);
+    }
+}
+
+} // namespace
+
+TEST(BinaryFile, FailuresToOpenHaveTheirNumbers) {
+    std::string folder = (std::filesystem::temp_directory_path() / "cirrava-XXXXXX").string();
+    ASSERT_NE(mkdtemp(folder.data()), nullptr);
+    mkfifo((folder + "/pipe").c_str(), 0666);
+    std::ofstream(folder + "/file") << "text";
+    std::ofstream(folder + "/secret") << "text";
+    chmod((folder + "/secret").c_str(), 0);
+    const auto check = [](const std::string& path, int reading, int writing) {
+        EXPECT_EQ(number_of(path, FileAccess::read), reading) << path;
+        EXPECT_EQ(number_of(path, FileAccess::read_write), writing) << path;
+    };
+    check("", 52, 52);
+    check(folder + "/" + std::string(300, 'a'), 52, 52);
+    check(folder + "/missing", 53, 0);
+    check(folder + "/no folder/file", 76, 76);
+    check(folder + "/file/file", 76, 76);
+    check(folder, 75, 75);
+    check(folder + "/pipe", 75, 75);
+    check("/dev/null", 75, 75);
+    chmod(folder.c_str(), 0555);
+    const auto check_as_nobody = [&] { // in a process of its own, since root may do everything
+        EXPECT_TRUE(geteuid() != 0 || setuid(65534) == 0);
+        check(folder + "/file", 0, 75);
+        check(folder + "/secret", 75, 75);
+        check(folder + "/new", 53, 75);
+        EXPECT_FALSE(may_write_in(folder));
+        EXPECT_TRUE(may_write_in("/tmp"));
+        _exit(testing::Test::HasFailure() ? 1 : 0);
+    };
+    EXPECT_EXIT(check_as_nobody(), testing::ExitedWithCode(0), "");
+    std::filesystem::remove_all(folder);
+}
+
+} // namespace cirrava

@@ -1,0 +1,111 @@
+#include "window_fixture.h"
+
+#include <QAccessible>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QShortcut>
+#include <QToolTip>
+#include <QWheelEvent>
+
+namespace cirrava {
+
+using Controls = WindowTest;
+
+TEST_F(Controls, ScreenReadersHearAndWorkEveryCell) {
+    paint("thermal_char", 30, 40, 12);
+    const auto* cells = QAccessible::queryAccessibleInterface(&thermal());
+    auto* cell = cells->child(35);
+    EXPECT_EQ(cell->text(QAccessible::Name), "cell 36, -92.5 C, -134.5 F");
+    EXPECT_EQ(cell->text(QAccessible::Description), "red 255, green 224, blue 192");
+    EXPECT_EQ(cell->rect(), QRect(window.mapToGlobal(QPoint(288, 137)), QSize(8, 15)));
+    EXPECT_EQ(cells->childAt(cell->rect().x(), cell->rect().y()), cell);
+    EXPECT_TRUE(cell->state().selected);
+    EXPECT_FALSE(cells->child(41)->state().selected);
+    EXPECT_EQ(find("sample").accessibleDescription(), "red 255, green 224, blue 192");
+    EXPECT_EQ(find("thermal_butt").accessibleDescription(), "working scale");
+    EXPECT_EQ(find("hvc_butt").accessibleDescription(), "");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Window);
+    act("click color(5)");
+    for (const QString& action : cell->actionInterface()->actionNames())
+        cell->actionInterface()->doAction(action);
+    EXPECT_EQ(text("Text1") + text("Text2"), "-92.5-92.5");
+    EXPECT_EQ(swatch(), QColor(255, 224, 192));
+}
+
+TEST_F(Controls, OtherProgramsCannotWriteWhereTheUserCannot) {
+    act("left thermal_char 300, right thermal_char 10");
+    for (const char* box : {"Text1", "Text2", "Text3", "Text4"}) {
+        const QString before = text(box);
+        QAccessible::queryAccessibleInterface(&find(box))->setText(QAccessible::Value, "5");
+        EXPECT_EQ(text(box), before) << box;
+    }
+    find<QLabel>("Label5").setText("another text");
+    act("click Command2");
+    EXPECT_EQ(user.saw.size(), 1); // that there is no range
+    brightness().setValue(9);
+    EXPECT_EQ(brightness().value(), 5);
+    EXPECT_FALSE(brightness().isEnabled());
+    EXPECT_EQ(hvc().colour(10), 0);
+}
+
+TEST_F(Controls, HeldKeysPressNothingTwice) {
+    const auto press_enter = [this](QEvent::Type type, quint64 instant, bool repeat = false) {
+        QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier, "\r", repeat);
+        event.setTimestamp(instant);
+        QCoreApplication::sendEvent(window.windowHandle(), &event);
+    };
+    find("color(9)").setFocus();
+    press_enter(QEvent::KeyPress, 1);
+    find("color(3)").setFocus();
+    press_enter(QEvent::KeyPress, 2, true);
+    press_enter(QEvent::KeyRelease, 3);
+    press_enter(QEvent::KeyPress, 3);
+    EXPECT_EQ(swatch(), Qt::red);
+    for (const auto* shortcut : window.findChildren<QShortcut*>())
+        EXPECT_EQ(shortcut->autoRepeat(),
+                  shortcut->key().toString().contains(QRegularExpression("[YZ]$")));
+}
+
+TEST_F(Controls, SlidersMoveByOne) {
+    Slider& bar = find<Slider>("HScroll1");
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() - 5, 8});  // an arrow
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() - 30, 8}); // the track
+    for (int part = 0; part < 3; ++part) { // a fine wheel, a notch in all
+        QWheelEvent turn({9, 9}, {9, 9}, {}, {0, 40}, {}, {}, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&bar, &turn);
+    }
+    EXPECT_EQ(swatch(), QColor(3, 0, 0));
+    EXPECT_TRUE(bar.hasTracking()); // the colour follows each pixel of a drag
+}
+
+TEST_F(Controls, TheColourDialogOpensAtTheColour) {
+    act("click pickcolor");
+    EXPECT_EQ(swatch(), Qt::black);
+    user.colour = Qt::red;
+    act("click pickcolor, click pickcolor");
+    EXPECT_EQ(swatch(), Qt::red);
+    EXPECT_EQ(user.saw, (QStringList{"#ffffff", "#ffffff", "#ff0000"})); // black has no spectrum
+}
+
+TEST_F(Controls, ATooltipTellsTheTemperature) {
+    const QPoint point = inside(sea(), 1) - sea().pos();
+    QHelpEvent rest(QEvent::ToolTip, point, sea().mapToGlobal(point));
+    QCoreApplication::sendEvent(&sea(), &rest);
+    EXPECT_EQ(QToolTip::text(), "(2) -9.8Celcius / 14.36Farenheit");
+}
+
+TEST_F(Controls, DisabledButtonsLookDisabledAndGiveTheFocusOn) {
+    const auto darkest = [this](const char* button) {
+        const QImage image = find(button).grab().toImage();
+        int grey = 255;
+        for (int x = 0; x < image.width(); ++x)
+            grey = std::min(grey, qGray(image.pixel(x, image.height() / 2)));
+        return grey;
+    };
+    EXPECT_LT(darkest("thermal_command"), 60);
+    EXPECT_GT(darkest("sea_command"), 90);
+    act("press thermal_command Ctrl+3");
+    EXPECT_TRUE(find("hvc_command").hasFocus());
+}
+
+} // namespace cirrava

@@ -1,0 +1,177 @@
+#include "window_fixture.h"
+
+#include "scale_editor/qt_values.h"
+
+#include <QDialog>
+#include <random>
+
+namespace cirrava {
+
+namespace {
+
+class Editing : public WindowTest {
+protected:
+    QStringList boxes() { return {text("Text1"), text("Text2"), text("Text3"), text("Text4")}; }
+
+    // The cells of a scale are black but for those of a range, which have a colour.
+    void expect_only(const CellArray& cells, const Range& range, Colour colour) {
+        QList<Colour> expected(cell_count(cells.kind()), RGB(0, 0, 0));
+        std::fill(expected.begin() + range.first, expected.begin() + range.last + 1, colour);
+        EXPECT_EQ(cells.colours(), expected);
+        expect_order();
+    }
+
+    // What holds whatever was done before.
+    void expect_order() {
+        const auto scales = QList{&thermal(), &sea(), &hvc()};
+        const auto working = QStringList{"Thermal", "Sea", "HVC"}.indexOf(text("Label5"));
+        const QList<std::pair<const char*, const char*>> buttons{
+            {"thermal_butt", "thermal_command"},
+            {"Sea_butt", "sea_command"},
+            {"hvc_butt", "hvc_command"}};
+        QList<int> channels;
+        for (const int i : {0, 1, 2}) { // scale and channel
+            ASSERT_EQ(find<Button>(buttons[i].first).face() == QColor(Qt::green), working == i);
+            ASSERT_EQ(find(buttons[i].second).isEnabled(), working == i);
+            channels << find<Slider>(QString("HScroll%1").arg(1 + i)).value();
+            ASSERT_EQ(text(QString("Label%1").arg(15 + i)), QString::number(channels[i]));
+        }
+        ASSERT_EQ(swatch(), QColor(channels[0], channels[1], channels[2]));
+        for (const char* only_hvc : {"Command1", "HScroll4"})
+            ASSERT_EQ(find(only_hvc).isEnabled(), working == 2);
+        ASSERT_EQ(brightness().sliderPosition(), 5);
+        for (const int side : {0, 1}) {
+            if (boxes()[side].trimmed().isEmpty())
+                continue;
+            int cell = 0;
+            while (celsius_text(ScaleKind(working), cell) != boxes()[side].toStdString())
+                ASSERT_LT(++cell, cell_count(ScaleKind(working)));
+            ASSERT_DOUBLE_EQ(boxes()[side + 2].toDouble(), boxes()[side].toDouble() * 1.8 + 32);
+            ASSERT_TRUE(scales[working]->is_marked(cell));
+        }
+        for (int x = 0; x < preview().width(); ++x) // once there is one
+            ASSERT_EQ(preview().pixelColor(x, 127), to_qt(hvc().colour(x)));
+    }
+};
+
+} // namespace
+
+TEST_F(Editing, ClicksAndKeysMarkTheRange) {
+    const std::pair<const char*, QStringList> steps[]{
+        // Start and end in degrees Celsius, then in Fahrenheit.
+        {"left thermal_char 220", {"0.0", " ", "32", " "}},
+        {"right thermal_char 259", {"0.0", "19.5", "32", "67.1"}},
+        {"left thermal_char 219", {"-0.5", "19.5", "31.1", "67.1"}},
+        {"middle Label2 1", {" ", "-9.8", " ", "14.36"}},
+        {"click Sea_butt", {" ", "-9.8", " ", "14.36"}},
+        {"press Text1 Up", {"-9.8", "-9.8", "14.36", "14.36"}}, // to the other side
+        {"press Text1 PgUp", {"-7.8", "-9.8", "17.96", "14.36"}},
+        {"press Text1 Left", {"-8.0", "-9.8", "17.6", "14.36"}},
+        {"press Text1 Down", {"-8.2", "-9.8", "17.24", "14.36"}},
+        {"press Text1 Ctrl+Home", {"-10.0", "-9.8", "14", "14.36"}},
+        {"press Text1 PgDown", {"-10.0", "-9.8", "14", "14.36"}},
+        {"press Text2 Ctrl+End", {"-10.0", "39.8", "14", "103.64"}},
+        {"press Text2 Right", {"-10.0", "39.8", "14", "103.64"}},
+        {"press Text2 Ctrl+1", {" ", " ", " ", " "}},
+        {"double Label3 99", {"39", " ", "102.2", " "}},
+        {"right Label3 60", {"39", "0", "102.2", "32"}},
+        {"click Command1", {" ", " ", " ", " "}},
+        {"press Text1 Down", {"-60", " ", "-76", " "}},
+        {"press Text1 Ctrl+2", {" ", " ", " ", " "}},
+    };
+    for (const auto& [action, shown] : steps) {
+        act(action);
+        EXPECT_EQ(boxes(), shown) << action;
+        expect_order();
+    }
+}
+
+TEST_F(Editing, ColoursTheRangeAndTakesThatBack) {
+    act("left thermal_char 9, right thermal_char 319, click color(9), click Command2");
+    expect_only(thermal(), {9, 319}, RGB(255, 0, 0));
+    act("left Label2 0, right Label2 249, press HScroll3 Right, press Text1 Ctrl+Return");
+    expect_only(sea(), {0, 249}, RGB(255, 0, 1));
+    act("right thermal_char 9, press Text1 Ctrl+Enter"); // the end alone is no range
+    act("left thermal_char 10, click Command2");         // nor is one that starts behind its end
+    EXPECT_EQ(
+        user.saw,
+        QStringList(2, "Choose a range by left clicking for start and right clicking for end"));
+    expect_only(thermal(), {9, 319}, RGB(255, 0, 0));
+    act("press Text1 Ctrl+Z, press Text1 Ctrl+Z");
+    expect_only(sea(), {}, 0);
+    expect_only(thermal(), {}, 0);
+    act("press Text1 Ctrl+Y");
+    expect_only(thermal(), {9, 319}, RGB(255, 0, 0));
+    act("press Text1 Ctrl+Shift+Z, press Text1 Ctrl+Y");
+    expect_only(sea(), {0, 249}, RGB(255, 0, 1));
+    act("double thermal_char 9, left Label2 9, press Text1 Shift+Enter");
+    EXPECT_EQ(swatch(), QColor(255, 0, 1));
+    act("double thermal_char 9");
+    EXPECT_EQ(swatch(), Qt::red);
+}
+
+TEST_F(Editing, ShiftsTheBrightnessOfHvcCells) {
+    act("right thermal_char 300, left Label3 50, press HScroll4 Right");
+    expect_only(hvc(), {50, 99}, RGB(5, 5, 5));
+    act("press HScroll4 Left");
+    expect_only(hvc(), {}, 0);
+    act("click Command1, press HScroll4 End");
+    expect_only(hvc(), {0, 99}, RGB(21, 21, 21));
+    act("left thermal_char 300, press Text1 Ctrl+3, press HScroll4 End"); // which starts behind
+    expect_only(hvc(), {0, 99}, RGB(21, 21, 21));
+    act("press HScroll4 Ctrl+Z");
+    expect_only(hvc(), {}, 0);
+
+    const QPoint thumb = brightness().rect().center();
+    const auto drag = [&](int to, const char* interruption) {
+        QTest::mousePress(&brightness(), Qt::LeftButton, {}, thumb);
+        for (int x = 0; x <= to; ++x)
+            QTest::mouseMove(&brightness(), thumb + QPoint(x, 0));
+        EXPECT_EQ(hvc().colour(0), 0); // a drag counts once, at its end
+        if (interruption != nullptr)
+            act(interruption);
+        QTest::mouseMove(&brightness(), thumb + QPoint(to, 1));
+        QTest::mouseRelease(&brightness(), Qt::LeftButton, {}, thumb + QPoint(to, 1));
+    };
+    act("click Command1");
+    in_next<QDialog>([](QDialog& help) { EXPECT_EQ(help.objectName(), "palhelp"); });
+    drag(20, "press HScroll4 F1");
+    window.activateWindow(); // there is no window manager to do it
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    expect_only(hvc(), {}, 0);
+    drag(20, "press HScroll4 Ctrl+1, press Text1 Ctrl+3");
+    expect_only(hvc(), {}, 0);
+    drag(brightness().width(), nullptr);
+    expect_only(hvc(), {0, 99}, RGB(21, 21, 21));
+    act("press HScroll4 Left");
+    EXPECT_TRUE(brightness().hasFocus());
+}
+
+// CIRRAVA_WALK_SEED walks a walk again; without it, it is always the same in CI.
+TEST_F(Editing, ARandomWalkLeavesTheWindowInOrder) {
+    unsigned seed = qEnvironmentVariableIsSet("CI") ? 1 : std::random_device()();
+    if (qEnvironmentVariableIsSet("CIRRAVA_WALK_SEED"))
+        seed = qgetenv("CIRRAVA_WALK_SEED").toUInt();
+    std::cout << "CIRRAVA_WALK_SEED=" << seed << '\n' << std::flush;
+    std::mt19937 random(seed);
+    QStringList steps = QString("press Text1 PgUp, press Text2 Down, press Text1 Ctrl+End, "
+                                "press Text2 Enter, press Text2 Ctrl+Z, press Text1 Ctrl+Y, "
+                                "press HScroll1 PgUp, press HScroll4 Right, press HScroll4 Home, "
+                                "press Text1 Ctrl+1, press Text1 Ctrl+3, press Sea_butt Return, "
+                                "press hvc_butt Space, click Command1, click Command2")
+                            .split(", ");
+    for (int cell = 0; cell < 100; cell += 9)
+        for (const char* step : {"left thermal_char", "right thermal_char", "right Label2",
+                                 "middle Label2", "left Label3", "right Label3", "double Label3"})
+            steps << QString("%1 %2").arg(step).arg(cell);
+    for (int preset = 0; preset < 48; ++preset)
+        steps << QString("click color(%1), click Command2").arg(preset);
+    for (int number = 0; number < 3'000; ++number) {
+        const QString step = steps[static_cast<int>(random() % steps.size())];
+        SCOPED_TRACE(step.toStdString());
+        act(step);
+        ASSERT_NO_FATAL_FAILURE(expect_order());
+    }
+}
+
+} // namespace cirrava
