@@ -13,10 +13,9 @@ Selection::Selection(const AllScales& scales, QLabel& Label5, const Bound& range
       range_end_(range_end) {
     show_working_scale();
     // Another program can write into a box, through the accessibility bus. It is written over.
-    for (QLineEdit* box :
-         std::initializer_list<QLineEdit*>{&range_start.celsius, &range_start.fahrenheit,
-                                           &range_end.celsius, &range_end.fahrenheit})
-        QObject::connect(box, &QLineEdit::textChanged, box, [this] { show_range(); });
+    for (const Bound& bound : {range_start, range_end})
+        for (QLineEdit* box : {static_cast<QLineEdit*>(&bound.celsius), &bound.fahrenheit})
+            QObject::connect(box, &QLineEdit::textChanged, box, [this] { show_range(); });
 }
 
 void Selection::choose(const ScaleControls& scale) {

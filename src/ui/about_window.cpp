@@ -36,8 +36,8 @@ public:
         : QDialog(&parent), Placer(*this, "About " + program_title, {5685, 5190}) {
         setObjectName("frmAbout");
         setWindowIcon(parent.windowIcon());
-        const QPoint top_left = to_pixels({2340, 1935}, logicalDpiX()).topLeft();
-        setGeometry(QRect(top_left, size())); // of the client area, without the frame
+        // The place is that of the client area, without the frame.
+        setGeometry(QRect(to_pixels({2340, 1935}, logicalDpiX()).topLeft(), size()));
 
         const Look title{.text = qRgb(0, 0, 255), .font = {.points = 18}};
         control(picIcon_, "picIcon", "", {0, 0, 1140, 1500});

@@ -11,7 +11,7 @@ namespace cirrava {
 
 using Controls = WindowTest;
 
-TEST_F(Controls, ScreenReadersHearAndWorkEveryCell) {
+TEST_F(Controls, CellsTellTheirTemperaturesAndAreWorkedByScreenReaders) {
     paint("thermal_char", 30, 40, 12);
     const auto* cells = QAccessible::queryAccessibleInterface(&thermal());
     auto* cell = cells->child(35);
@@ -22,9 +22,10 @@ TEST_F(Controls, ScreenReadersHearAndWorkEveryCell) {
     EXPECT_TRUE(cell->state().selected);
     EXPECT_FALSE(cells->child(41)->state().selected);
     EXPECT_EQ(find("sample").accessibleDescription(), "red 255, green 224, blue 192");
-    EXPECT_EQ(find("thermal_butt").accessibleDescription(), "working scale");
-    EXPECT_EQ(find("hvc_butt").accessibleDescription(), "");
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Window);
+    QHelpEvent rest(QEvent::ToolTip, thermal().cell_box(35).center(), cell->rect().center());
+    QCoreApplication::sendEvent(&thermal(), &rest);
+    EXPECT_EQ(QToolTip::text(), "(37) -92.0Celcius / -133.6Farenheit"); // which lies over 36
     act("click color(5)");
     for (const QString& action : cell->actionInterface()->actionNames())
         cell->actionInterface()->doAction(action);
@@ -45,7 +46,6 @@ TEST_F(Controls, OtherProgramsCannotWriteWhereTheUserCannot) {
     brightness().setValue(9);
     EXPECT_EQ(brightness().value(), 5);
     EXPECT_FALSE(brightness().isEnabled());
-    EXPECT_EQ(hvc().colour(10), 0);
 }
 
 TEST_F(Controls, HeldKeysPressNothingTwice) {
@@ -79,31 +79,23 @@ TEST_F(Controls, SlidersMoveByOne) {
 }
 
 TEST_F(Controls, TheColourDialogOpensAtTheColour) {
-    act("click pickcolor");
-    EXPECT_EQ(swatch(), Qt::black);
+    act("click pickcolor"); // and the user cancels
     user.colour = Qt::red;
     act("click pickcolor, click pickcolor");
     EXPECT_EQ(swatch(), Qt::red);
-    EXPECT_EQ(user.saw, (QStringList{"#ffffff", "#ffffff", "#ff0000"})); // black has no spectrum
-}
-
-TEST_F(Controls, ATooltipTellsTheTemperature) {
-    const QPoint point = inside(sea(), 1) - sea().pos();
-    QHelpEvent rest(QEvent::ToolTip, point, sea().mapToGlobal(point));
-    QCoreApplication::sendEvent(&sea(), &rest);
-    EXPECT_EQ(QToolTip::text(), "(2) -9.8Celcius / 14.36Farenheit");
+    EXPECT_EQ(user.saw, (QStringList{"#ffffff", "#ffffff", "#ff0000"})); // in place of black
 }
 
 TEST_F(Controls, DisabledButtonsLookDisabledAndGiveTheFocusOn) {
-    const auto darkest = [this](const char* button) {
+    const auto shows_black = [this](const char* button) {
         const QImage image = find(button).grab().toImage();
-        int grey = 255;
+        bool black = false;
         for (int x = 0; x < image.width(); ++x)
-            grey = std::min(grey, qGray(image.pixel(x, image.height() / 2)));
-        return grey;
+            black |= qGray(image.pixel(x, image.height() / 2)) < 60;
+        return black;
     };
-    EXPECT_LT(darkest("thermal_command"), 60);
-    EXPECT_GT(darkest("sea_command"), 90);
+    EXPECT_TRUE(shows_black("thermal_command"));
+    EXPECT_FALSE(shows_black("sea_command"));
     act("press thermal_command Ctrl+3");
     EXPECT_TRUE(find("hvc_command").hasFocus());
 }

@@ -23,9 +23,8 @@ struct User {
     QStringList saw; // the dialogs and messages, in order
 
     Dialogs dialogs() {
-        const auto choose_file = [this](const FileQuestion& question) {
-            const auto& [title, filter, folder, name] = question;
-            saw << title + ": " + name + " of " + filter + " in " + folder;
+        const auto choose_file = [this](const FileQuestion& asked) {
+            saw << asked.title + ": " + asked.name + " of " + asked.filter + " in " + asked.folder;
             return path;
         };
         const auto choose_colour = [this](const QColor& initial) {
@@ -45,21 +44,18 @@ struct User {
 // closes the window where the action has not.
 template <class Dialog> void in_next(const std::function<void(Dialog&)>& action) {
     QTimer::singleShot(0, [action] {
-        auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr)
-            qFatal("another window than expected, or none, has opened");
-        EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
-        action(*dialog);
-        if (dialog->isVisible())
-            dialog->reject();
+        auto& dialog = dynamic_cast<Dialog&>(*QApplication::activeModalWidget());
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        action(dialog);
+        if (dialog.isVisible())
+            dialog.reject();
     });
 }
 
 // The control of that name.
 template <class Control = QWidget> Control& find_in(const QWidget& window, const QString& name) {
     auto* const control = window.findChild<Control*>(name);
-    if (control == nullptr)
-        qFatal("no control %s", qPrintable(name));
+    Q_ASSERT_X(control != nullptr, "there is no control", qPrintable(name));
     return *control;
 }
 
@@ -92,8 +88,24 @@ protected:
     // Does what a user does, step by step: "click Command1, press Text1 Ctrl+End" or, with a button
     // of the mouse, "left thermal_char 220"; "double" is a double click with the left one.
     void act(const QString& steps) {
-        for (const QString& step : steps.split(", "))
-            act(step.split(' '));
+        for (const QString& step : steps.split(", ")) {
+            const QStringList words = step.split(' ');
+            auto& control = find(words[1]);
+            const auto button = words[0] == "right"    ? Qt::RightButton
+                                : words[0] == "middle" ? Qt::MiddleButton
+                                                       : Qt::LeftButton;
+            if (words[0] == "press") {
+                control.setFocus();
+                press(QKeySequence(words[2]));
+            } else if (words[0] == "click") {
+                QTest::mouseClick(&control, button);
+            } else {
+                const QPoint point = inside(find<CellArray>(words[1]), words[2].toInt());
+                QTest::mouseClick(window.windowHandle(), button, {}, point);
+                if (words[0] == "double")
+                    QTest::mouseDClick(window.windowHandle(), button, {}, point);
+            }
+        }
     }
 
     // Gives the cells `first` to `last` the colour of a preset.
@@ -105,23 +117,6 @@ protected:
     User user;
     QTemporaryDir folder;
     Cirrava window{user.dialogs()};
-
-private:
-    void act(const QStringList& words) {
-        if (words[0] == "press") {
-            find(words[1]).setFocus();
-            return press(QKeySequence(words[2]));
-        }
-        if (words[0] == "click")
-            return QTest::mouseClick(&find(words[1]), Qt::LeftButton);
-        const QPoint point = inside(find<CellArray>(words[1]), words[2].toInt());
-        const auto button = words[0] == "right"    ? Qt::RightButton
-                            : words[0] == "middle" ? Qt::MiddleButton
-                                                   : Qt::LeftButton;
-        QTest::mouseClick(window.windowHandle(), button, {}, point);
-        if (words[0] == "double")
-            QTest::mouseDClick(window.windowHandle(), button, {}, point);
-    }
 };
 
 } // namespace cirrava

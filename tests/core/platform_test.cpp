@@ -1,5 +1,6 @@
 #include "platform/binary_file.h"
 #include "platform/failure.h"
+#include "platform/registry.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -8,28 +9,22 @@
 
 namespace cirrava {
 
-namespace {
-
-// The number of the failure to open a file, or 0.
-int number_of(const std::string& path, FileAccess access) {
-    try {
-        BinaryFile(path, access);
-        return 0;
-    } catch (const Failure& failure) {
-        return static_cast<int>(failure.number);
-    }
-}
-
-} // namespace
-
 TEST(BinaryFile, FailuresToOpenHaveTheirNumbers) {
     std::string folder = (std::filesystem::temp_directory_path() / "cirrava-XXXXXX").string();
     ASSERT_NE(mkdtemp(folder.data()), nullptr);
     mkfifo((folder + "/pipe").c_str(), 0666);
-    std::ofstream(folder + "/file") << "text";
-    std::ofstream(folder + "/secret") << "text";
+    for (const char* name : {"/file", "/.hidden", "/secret"})
+        std::ofstream(folder + name) << "text";
     chmod((folder + "/secret").c_str(), 0);
-    const auto check = [](const std::string& path, int reading, int writing) {
+    const auto number_of = [](const std::string& path, FileAccess access) {
+        try {
+            BinaryFile(path, access);
+            return 0; // no failure
+        } catch (const Failure& failure) {
+            return static_cast<int>(failure.number);
+        }
+    };
+    const auto check = [&](const std::string& path, int reading, int writing) {
         EXPECT_EQ(number_of(path, FileAccess::read), reading) << path;
         EXPECT_EQ(number_of(path, FileAccess::read_write), writing) << path;
     };
@@ -38,9 +33,9 @@ TEST(BinaryFile, FailuresToOpenHaveTheirNumbers) {
     check(folder + "/missing", 53, 0);
     check(folder + "/no folder/file", 76, 76);
     check(folder + "/file/file", 76, 76);
-    check(folder, 75, 75);
-    check(folder + "/pipe", 75, 75);
-    check("/dev/null", 75, 75);
+    for (const std::string& no_file : {folder, folder + "/pipe", std::string("/dev/null")})
+        check(no_file, 75, 75);
+    EXPECT_FALSE(plain_file_exists(folder + "/.hidden"));
     chmod(folder.c_str(), 0555);
     const auto check_as_nobody = [&] { // in a process of its own, since root may do everything
         EXPECT_TRUE(geteuid() != 0 || setuid(65534) == 0);
@@ -53,6 +48,18 @@ TEST(BinaryFile, FailuresToOpenHaveTheirNumbers) {
     };
     EXPECT_EXIT(check_as_nobody(), testing::ExitedWithCode(0), "");
     std::filesystem::remove_all(folder);
+}
+
+TEST(Registry, NamesTheProgram) {
+    std::optional<RegistryValue> program;
+    const RegistryReader registry = [&](auto, const std::string& key, const auto&) {
+        return key == program_key ? program : RegistryValue{string_value, "/no/such/folder"};
+    };
+    EXPECT_EQ(registered_program(registry), "");
+    program = {3, "bytes"}; // no string
+    EXPECT_EQ(registered_program(registry), "");
+    program = {string_value, std::string("/no/such/program") + '\0'}; // without a look
+    EXPECT_EQ(registered_program(registry), "/no/such/program");
 }
 
 } // namespace cirrava
