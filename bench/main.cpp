@@ -69,7 +69,6 @@ void measure_palette() {
     };
     write_all(); // fwrite_all makes no file
     measure({
-        {"copy_image", [&] { return time(50, [&] { seen = Bytes(image).front(); }); }},
         {"build_image", [&] { return time(50, [&] { seen = hvc_image(cells).front(); }); }},
         {"fwrite_file", [&] { return time(20, fwrite_all); }},
         {"write_file", [&] { return time(20, write_all); }},

@@ -29,10 +29,7 @@ public:
 
 class LineWindow : public QWidget {
 public:
-    LineWindow() {
-        set_up_application(*qApp);
-        setFixedSize(961, 627);
-    }
+    LineWindow() { setFixedSize(961, 627); }
 
 protected:
     void paintEvent(QPaintEvent*) override {
@@ -40,21 +37,12 @@ protected:
     }
 };
 
-Dialogs dressed() {
-    set_up_application(*qApp); // before the first control is made
-    return {};
-}
-
-class ProgramWindow : public Cirrava {
-public:
-    ProgramWindow() : Cirrava(dressed()) {}
-};
-
 } // namespace
 
 int main(int argc, char* argv[]) {
     set_up_process();
     QApplication application(argc, argv);
+    set_up_application(application);
     WINDOW window;
     EndAfterFirstFrame end;
     window.show();

@@ -74,6 +74,8 @@ void check_file_names() {
         expect(failure_of_opening(path, FileAccess::read) == reading &&
                    failure_of_opening(path, FileAccess::read_write) == writing,
                what);
+    expect(may_write_in(".") && !std::filesystem::exists("cirrava-pal.tmp"), "writable folder");
+    expect(!may_write_in("missing"), "unwritable folder");
 }
 
 } // namespace
