@@ -73,7 +73,7 @@ take main-window 0 0 14415 9405
 click "${thermal_command[@]}"
 choose_file "Create Thermal" "$folder/my palette.bmp"
 in_window "Ready to create"
-take step-6-write 4890 3550 4590 1440
+take step-5-write 4890 3550 4590 1440
 xdotool key Escape
 in_window "Cirrava PAL"
 hvc_cell 60 click
@@ -82,8 +82,8 @@ click "${apply[@]}"
 hvc_cell 70 see ff0000
 click "${darker[@]}"
 hvc_cell 70 see fa0000
-take step-5-hvc 0 5640 14415 1260
-take step-5-preview 12500 1440 1915 5040
+take hvc-range 0 5640 14415 1260
+take hvc-table 12500 1440 1915 5040
 click "${quit[@]}"
 wait "$program_id"
 rm -r "$(realpath "$folder")" "$folder"

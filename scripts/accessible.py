@@ -1,12 +1,15 @@
-"""The running program's window on the accessibility bus. Run as a program, presses its Quit button.
+"""The running program's window on the accessibility bus. Run as a program, colours a cell, listens
+whether screen readers are told of it, and presses the Quit button.
 
 Fails while the program is not on the bus.
 """
 
+import sys
+
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi
+from gi.repository import Atspi, GLib
 
 
 def children(node):
@@ -18,6 +21,30 @@ def window():
     return program.get_child_at_index(0)
 
 
+def expect_new_description(node, act):
+    """Does `act` and fails unless screen readers are told of another description of the node."""
+    loop = GLib.MainLoop()
+    told = []
+
+    def listen(event):
+        if event.source.get_name() == node.get_name():
+            told.append(event)
+            loop.quit()
+
+    listener = Atspi.EventListener.new(listen)
+    listener.register("object:property-change:accessible-description")
+    GLib.timeout_add_seconds(10, loop.quit)
+    act()
+    loop.run()
+    if not told:
+        sys.exit("Screen readers are not told of new colours.")
+
+
 if __name__ == "__main__":
-    [button] = [control for control in children(window()) if control.get_name() == "Quit"]
-    button.do_action(0)
+    controls = {control.get_name(): control for control in children(window())}
+    cell = controls["Thermal scale"].get_child_at_index(5)
+    for action in (0, 1):  # mark as start, mark as end
+        cell.do_action(action)
+    controls["Preset 9: red 255, green 0, blue 0"].do_action(0)
+    expect_new_description(controls["Thermal scale"], lambda: controls["Apply Color"].do_action(0))
+    controls["Quit"].do_action(0)

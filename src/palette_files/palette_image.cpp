@@ -20,7 +20,7 @@ std::uint8_t shifted(int channel, int levels) {
     return static_cast<std::uint8_t>(std::clamp(channel + levels, 0, 255));
 }
 
-// The headers of an image of so many rows, with room for all that follows.
+// Returns the headers of an image of so many rows, with memory reserved for the rows.
 Bytes headers_of(std::span<const Colour> cells, int rows) {
     Bytes bytes;
     bytes.reserve(headers_size + (cells.size() + 1) * pixel_size * static_cast<std::size_t>(rows));

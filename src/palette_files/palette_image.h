@@ -11,8 +11,8 @@
 #include <vector>
 
 // The image format of the palette files: uncompressed 24-bit BMP with the 14-byte file header and
-// the 40-byte information header, rows stored bottom first, pixels as blue, green, red. Bytes in,
-// bytes out; what lies around them in the file system is not known here.
+// the 40-byte information header, rows stored bottom first, pixels as blue, green, red. All
+// functions work on bytes and know nothing of files.
 namespace cirrava {
 
 // The image of a one-row palette (Thermal, Sea Surface): one pixel per cell, coldest first, the row

@@ -25,7 +25,7 @@ const Scale& scale(ScaleKind kind) {
     return scales[static_cast<std::size_t>(kind)];
 }
 
-// No locale changes it.
+// Writes a number as no locale changes it.
 std::string text_of(double value, std::chars_format format, int precision) {
     std::array<char, 32> buffer{};
     const auto [end, error] =
@@ -33,7 +33,7 @@ std::string text_of(double value, std::chars_format format, int precision) {
     return {buffer.data(), end};
 }
 
-// With at most 15 significant digits, which hide the noise: 14.360000000000001 gives 14.36.
+// Writes at most 15 significant digits, which hide the noise: 14.360000000000001 gives 14.36.
 std::string plain_text(double value) {
     return text_of(value, std::chars_format::general, 15);
 }
@@ -65,6 +65,7 @@ std::string tick_text(ScaleKind kind, int cell) {
     return plain_text(celsius(kind, cell)) + "C/" + fahrenheit_text(kind, cell) + "F";
 }
 
+// GCC 12 warns of an overlap, where there is none, when this starts with "(" + std::to_string(...).
 std::string tooltip_text(ScaleKind kind, int cell) {
     std::string text = "(";
     text += std::to_string(cell + 1) + ") " + celsius_text(kind, cell) + "Celcius / ";

@@ -12,8 +12,9 @@ namespace cirrava {
 struct ScaleControls {
     Button& choose; // makes it the working scale
     CellArray& cells;
-    Button& generate;   // its file; enabled while it is the working scale, and so are
-    QWidgetList others; // the controls that only this scale has
+    // Enabled while it is the working scale:
+    Button& generate;   // writes its file
+    QWidgetList others; // which only this scale has
 
     ScaleKind kind() const { return cells.kind(); }
 };

@@ -63,7 +63,7 @@ private:
     const AllScales& scales_;
     QLabel& Label5_;
     const ScaleControls* working_scale_;
-    Bound range_start_, range_end_; // in any order
+    Bound range_start_, range_end_; // the start may lie behind the end
 };
 
 } // namespace cirrava

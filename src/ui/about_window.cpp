@@ -73,7 +73,7 @@ private:
             if (QProcess::startDetached(program.filePath(), {}))
                 return;
         } catch (const Failure&) {
-            // A folder that cannot be looked into means no more to the user than an empty one.
+            // For the user, a folder that cannot be searched is one without the program.
         }
         qt_dialogs(*this).tell("System Information Is Unavailable At This Time");
     }

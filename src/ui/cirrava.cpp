@@ -39,7 +39,7 @@ void Cirrava::connect_scales() {
                 [this, &scale](int cell, Side side) { selection_.mark(scale, cell, side); });
         connect(&scale.cells, &CellArray::colour_asked, this,
                 [this, &scale](int cell) { current_colour_.take(scale.cells.colour(cell)); });
-        for (const ScaleControls& other : c.scales) // the pointer may have moved to its cells
+        for (const ScaleControls& other : c.scales) // over which the pointer may be by then
             connect(&scale.cells, &CellArray::released, &other.cells, &CellArray::mark_at);
     }
     connect_box(c.Text1, Side::start);
@@ -92,17 +92,18 @@ void Cirrava::connect_windows() {
 void Cirrava::connect_history() {
     connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this,
             [this] { history_.undo(); });
+    // Desktops differ in the key for redo.
     for (const auto keys : {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, // desktops differ
+        connect(new QShortcut(keys, this), &QShortcut::activated, this,
                 [this] { history_.redo(); });
 }
 
 void Cirrava::connect_keys() {
     auto& c = controls_;
     const auto press = [this](QKeyCombination keys, const QList<Button*>& buttons) {
-        auto* const shortcut = new QShortcut(keys, this); // which the window owns
+        auto* const shortcut = new QShortcut(keys, this); // the window owns it
         shortcut->setAutoRepeat(false);
-        for (Button* button : buttons) // of which a disabled one does nothing
+        for (Button* button : buttons) // a disabled one does nothing
             connect(shortcut, &QShortcut::activated, button, &Button::click);
     };
     press(Qt::Key_F1, {&c.Command4});

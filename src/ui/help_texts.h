@@ -1,6 +1,6 @@
 #pragma once
 
-// The texts of the help windows: a paragraph is one line here.
+// The texts of the help windows, one line for each paragraph.
 namespace cirrava {
 
 inline constexpr char how_to_use_text[] =

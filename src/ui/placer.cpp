@@ -9,7 +9,7 @@ namespace cirrava {
 
 namespace {
 
-// How much of its size a client area can have on `screen`, from 0.6 to 1.
+// Returns by how much a client area must be shrunk to fit on `screen`, from 0.6 to 1.
 double fitting(QSize client_area, const QScreen& screen) {
     constexpr QSize frame(10, 40); // about what window managers put around a window
     const QSizeF room = screen.availableSize() - frame;
@@ -17,9 +17,9 @@ double fitting(QSize client_area, const QScreen& screen) {
         0.6, qMin(room.width() / client_area.width(), room.height() / client_area.height()), 1.0);
 }
 
-// `box` is in the control's pixels.
+// Narrows the font of `control` until `caption` fits `box`, which is in the control's pixels.
 void fit(QWidget& control, const QString& caption, const QRect& box) {
-    constexpr int narrowest = 60; // percent; below it nobody could read it
+    constexpr int narrowest = 60; // percent; nobody could read a narrower font
     const auto fits = [&] {
         const QFontMetrics metrics = control.fontMetrics();
         const QRect endless(0, 0, box.width(), QWIDGETSIZE_MAX);
@@ -80,8 +80,8 @@ void Placer::button(Button& button, const QString& name, const QString& caption,
 }
 
 void Placer::give_look(QWidget& control, const Look& look) const {
-    // What a look leaves open is left alone: controls that share the program's font and palette
-    // share what the style has drawn for them, too.
+    // Only what the look names is set: controls that keep the program's font and palette also share
+    // what the style has drawn for them.
     if (look.font != FontLook{}) {
         QFont caption_font = scaled_font(look.font);
         caption_font.setStyleStrategy(QFont::NoFontMerging); // they need no letters of other fonts

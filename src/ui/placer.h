@@ -9,8 +9,8 @@
 namespace cirrava {
 
 // Lays out a window that cannot be resized, from rectangles in twips and fonts in points. Where the
-// window would not fit on its screen, it does so for fewer dots per inch than the screen has, down
-// to 0.6 of them.
+// window would not fit on its screen, the layout is made for fewer dots per inch than the screen
+// has, down to 0.6 of them.
 class Placer {
 public:
     // Gives `window` that title, a close box and no other title-bar button, a client area of that
@@ -20,7 +20,7 @@ public:
     int dpi() const { return dpi_; }
     double shrink() const { return shrink_; } // of the screen's dots per inch; 1 where it fits
 
-    // Each puts a control into the window under that name. `spoken` is for screen readers only.
+    // These put a control into the window under that name. Screen readers say `spoken`.
     void control(QWidget& control, const QString& name, const QString& spoken,
                  const TwipRect& rect) const;
     void label(QLabel& label, const QString& name, const QString& text, const TwipRect& rect,
@@ -40,8 +40,8 @@ private:
 };
 
 // Narrows the font of every caption of `window` until it fits its box, wrapped where the box has
-// room for several lines. Fonts differ in width from one machine to the next; boxes do not. After
-// the last caption is written.
+// room for several lines. Fonts differ in width from one machine to the next; boxes do not. To be
+// called after the last caption is written.
 void fit_captions(QWidget& window);
 
 } // namespace cirrava

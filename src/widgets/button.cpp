@@ -31,7 +31,7 @@ void Button::paintEvent(QPaintEvent*) {
     painter.drawText(caption_box(), Qt::AlignCenter | Qt::TextDontClip | Qt::TextWordWrap, text());
 }
 
-// Qt lets Enter press a button in dialogs only.
+// Without this, Enter would press buttons in dialogs only.
 void Button::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();
@@ -39,7 +39,7 @@ void Button::keyPressEvent(QKeyEvent* event) {
         QPushButton::keyPressEvent(event);
 }
 
-// With a fine outline that leaves out the corners.
+// Paints the face and a fine outline around it, which leaves out the corners.
 void Button::paint_face(QStylePainter& painter, const QColor& colour) const {
     const QColor outline = palette().color(QPalette::Window).darker(170);
     painter.fillRect(rect().adjusted(1, 0, -1, 0), outline);
