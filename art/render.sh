@@ -11,8 +11,6 @@ render() { # master width height output
     rsvg-convert --width "$2" --height "$3" --output "$out/$4" "$art/$1"
 }
 
-render picture.svg 72 96 picture.png
-render picture.svg 144 192 picture@2x.png
 render picture.svg 216 288 picture@3x.png
 
 for size in 16 32 48 64 128 256; do

@@ -38,12 +38,13 @@ see "${ground[@]}" f0f0f0
 picture 1-start
 
 # By keys alone: cells 220 to 259, the red slider, Apply, the generate button.
-xdotool key ctrl+End key --repeat 10 Page_Down key Up Tab key --repeat 5 Page_Up key Down Tab Tab Tab End
+xdotool key ctrl+End key --repeat 10 Page_Down key Up Tab key --repeat 5 Page_Up key Down
+see 2580 3290 005fb8 # the line under cell 220
+xdotool key Tab Tab Tab End
 see "${swatch[@]}" ff0000
 xdotool key --repeat 4 Tab key space
 thermal_cell 220 see ff0000
 picture 2-thermal
-see 2580 3270 005fb8 # the line under cell 220
 xdotool key --repeat 5 Tab key Return
 save_as "Create Thermal" thermal.bmp
 

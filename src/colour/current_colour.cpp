@@ -28,8 +28,13 @@ void CurrentColour::Color_to_RGB(Colour color) {
 }
 
 void CurrentColour::follow_sliders() {
-    const auto& [red, green, blue] = channels_;
-    sample_.set_colour(QColor(red.slider.value(), green.slider.value(), blue.slider.value()));
+    const int red = channels_[0].slider.value();
+    const int green = channels_[1].slider.value();
+    const int blue = channels_[2].slider.value();
+    sample_.set_colour({red, green, blue});
+    channels_[0].slider.set_track({0, green, blue}, {255, green, blue});
+    channels_[1].slider.set_track({red, 0, blue}, {red, 255, blue});
+    channels_[2].slider.set_track({red, green, 0}, {red, green, 255});
     for (const auto& [slider, readout] : channels_)
         readout.setText(QString::number(slider.value()));
 }

@@ -17,7 +17,7 @@ struct ColourChannel {
 using ColourChannels = std::array<ColourChannel, 3>; // red, green, blue
 
 // The colour that is applied next. It is the fill of the swatch; the three sliders and their
-// read-outs mirror it.
+// read-outs mirror it, and their tracks show what each of them would make of it.
 class CurrentColour {
 public:
     CurrentColour(Swatch& sample, const ColourChannels& channels);

@@ -21,8 +21,7 @@ constexpr int pitch = 120;
 constexpr int row_pitch = 480;
 constexpr int cell_size = 255;
 constexpr int strip_inset = 15;
-constexpr int line_top = 255; // from the top of the cell; above the temperatures' letters
-constexpr int line_height = 30;
+constexpr int room_for_line = 360; // from the top of the cell to below the line under it
 
 constexpr int cells_per_row = 100;
 
@@ -69,8 +68,8 @@ void CellArray::lay_out(int left, int top, int dpi) {
     const int count = cell_count(kind_);
     const int rows = (count - 1) / cells_per_row;
     const int columns = std::min(count, cells_per_row) - 1;
-    setGeometry(to_pixels(
-        {left, top, columns * pitch + cell_size, rows * row_pitch + line_top + line_height}, dpi));
+    setGeometry(
+        to_pixels({left, top, columns * pitch + cell_size, rows * row_pitch + room_for_line}, dpi));
 }
 
 QRect CellArray::cell_box(int cell) const {
@@ -113,26 +112,41 @@ bool CellArray::event(QEvent* event) {
     return true;
 }
 
+// The painter does not smooth edges. So what is whole device pixels high is so wherever it starts.
 void CellArray::paintEvent(QPaintEvent* event) {
-    QPainter painter(this); // without antialiasing, edges fall on device pixels
+    QPainter painter(this);
+    const double device_pixels = devicePixelRatioF(); // to a pixel
+    const double hairline = qFloor(device_pixels) / device_pixels;
+    for (const QRectF& row : rows_of({0, cell_count(kind_) - 1}))
+        painter.fillRect(row.adjusted(-hairline, -hairline, hairline, hairline),
+                         palette().color(QPalette::Mid));
     for (int cell = 0; cell < cell_count(kind_); ++cell) {
         const QRect box = strip(cell);
         if (event->region().intersects(box))
             painter.fillRect(box, to_qt(colour(cell)));
     }
-    paint_line(painter, dotted_, line_height);
-    for (const Range& run : marked_)
-        paint_line(painter, run, cell_size);
+    const double thickness = qFloor(2 * device_pixels) / device_pixels;
+    const auto paint_lines = [&](const Range& cells, double dash) {
+        for (const QRectF& row : rows_of(cells))
+            for (double left = row.left(); left < row.right(); left += 2 * dash)
+                painter.fillRect(QRectF(left, row.bottom() + 2 * hairline,
+                                        std::min(dash, row.right() - left), thickness),
+                                 palette().color(QPalette::Highlight));
+    };
+    paint_lines(dotted_, thickness);
+    for (const Range& range : marked_)
+        paint_lines(range, width());
 }
 
-// A dash as long as a cell makes a full line.
-void CellArray::paint_line(QPainter& painter, const Range& cells, int dash) const {
-    for (int cell = cells.first; cell <= cells.last; ++cell)
-        for (int left = 0; left < visible_width(cell); left += 2 * dash) {
-            const int width = std::min(dash, visible_width(cell) - left);
-            painter.fillRect(to_pixels_of(cell, {left, line_top, width, line_height}),
-                             palette().color(QPalette::Highlight));
-        }
+// The strips of `cells` together, one box for each row.
+QList<QRectF> CellArray::rows_of(const Range& cells) const {
+    QList<QRectF> rows;
+    for (int first = cells.first; first <= cells.last;) {
+        const int next_row = first - first % cells_per_row + cells_per_row;
+        rows << (strip(first) | strip(std::min(cells.last, next_row - 1)));
+        first = next_row;
+    }
+    return rows;
 }
 
 void CellArray::tell_screen_readers(QAccessible::Event what) {

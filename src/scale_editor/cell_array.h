@@ -71,8 +71,8 @@ protected:
 private:
     int cell_under(const QMouseEvent& event) const; // -1 where there is none
     void tell_screen_readers(QAccessible::Event what);
-    void paint_line(QPainter& painter, const Range& cells, int dash) const; // in twips
-    int visible_width(int cell) const;                                      // in twips
+    QList<QRectF> rows_of(const Range& cells) const;
+    int visible_width(int cell) const;                        // in twips
     QRect to_pixels_of(int cell, const TwipRect& part) const; // `part` from the cell's top left
 
     ScaleKind kind_;

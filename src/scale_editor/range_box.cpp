@@ -1,8 +1,34 @@
 #include "scale_editor/range_box.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 
 namespace cirrava {
+
+namespace {
+
+class AccessibleRangeBox : public QAccessibleWidget {
+public:
+    explicit AccessibleRangeBox(RangeBox& box) : QAccessibleWidget(&box, QAccessible::SpinBox) {}
+
+    QString text(QAccessible::Text which) const override {
+        if (which != QAccessible::Name)
+            return QAccessibleWidget::text(which);
+        const QString shown = static_cast<RangeBox*>(object())->text();
+        return shown.trimmed().isEmpty() ? "blank" : shown;
+    }
+};
+
+QAccessibleInterface* accessible_range_box(const QString&, QObject* object) {
+    auto* const box = qobject_cast<RangeBox*>(object);
+    return box != nullptr ? new AccessibleRangeBox(*box) : nullptr;
+}
+
+} // namespace
+
+RangeBox::RangeBox() {
+    QAccessible::installFactory(accessible_range_box); // once, however often it is asked for
+}
 
 void RangeBox::keyPressEvent(QKeyEvent* event) {
     constexpr int page = 10;
@@ -24,7 +50,7 @@ void RangeBox::keyPressEvent(QKeyEvent* event) {
     case (Qt::CTRL | Qt::Key_End).toCombined():
         return emit sent_to_warmest();
     default:
-        QLineEdit::keyPressEvent(event);
+        TextBox::keyPressEvent(event);
     }
 }
 

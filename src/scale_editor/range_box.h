@@ -1,14 +1,17 @@
 #pragma once
 
-#include <QLineEdit>
+#include "widgets/text_box.h"
 
 namespace cirrava {
 
-// A box that shows the temperature of one side of the range. It is not typed into but takes keys as
-// a spin box does: the arrows, page up, page down, and Ctrl with Home or End. Enter asks for the
-// colour of its cell.
-class RangeBox : public QLineEdit {
+// A box that shows the temperature of one side of the range. It takes keys as a spin box does: the
+// arrows, page up, page down, and Ctrl with Home or End. Enter asks for the colour of its cell. For
+// screen readers it is a spin box whose name is its text, so that they speak it when it changes.
+class RangeBox : public TextBox {
     Q_OBJECT
+public:
+    RangeBox();
+
 signals:
     void stepped(int cells); // so many cells warmer, below 0 colder
     void sent_to_coldest();

@@ -12,10 +12,6 @@ Selection::Selection(const AllScales& scales, QLabel& Label5, const Bound& range
     : scales_(scales), Label5_(Label5), working_scale_(&scales.front()), range_start_(range_start),
       range_end_(range_end) {
     show_working_scale();
-    // Another program can write into a box, through the accessibility bus. It is written over.
-    for (const Bound& bound : {range_start, range_end})
-        for (QLineEdit* box : {static_cast<QLineEdit*>(&bound.celsius), &bound.fahrenheit})
-            QObject::connect(box, &QLineEdit::textChanged, box, [this] { show_range(); });
 }
 
 void Selection::choose(const ScaleControls& scale) {
@@ -107,12 +103,11 @@ void Selection::show_working_scale() {
 void Selection::show_range() {
     const ScaleKind kind = working_scale_->kind();
     for (const Bound& bound : {range_start_, range_end_}) {
-        const auto show = [&bound](QLineEdit& box, const std::string& text) {
-            box.setText(bound.shown ? to_qt(text) : QString(" "));
-            box.setCursorPosition(0); // the first digits show of a number wider than the box
+        const auto text = [&bound](const std::string& temperature) {
+            return bound.shown ? to_qt(temperature) : QString(" ");
         };
-        show(bound.celsius, celsius_text(kind, bound.cell));
-        show(bound.fahrenheit, fahrenheit_text(kind, bound.cell));
+        bound.celsius.setText(text(celsius_text(kind, bound.cell)));
+        bound.fahrenheit.setText(text(fahrenheit_text(kind, bound.cell)));
     }
     for (const ScaleControls& scale : scales_)
         if (&scale == working_scale_)

@@ -3,9 +3,9 @@
 #include "scale_editor/range.h"
 #include "scale_editor/range_box.h"
 #include "scale_editor/scale_controls.h"
+#include "widgets/text_box.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QList>
 #include <optional>
 
@@ -18,7 +18,7 @@ public:
     // One side of the range.
     struct Bound {
         RangeBox& celsius;
-        QLineEdit& fahrenheit;
+        TextBox& fahrenheit;
         int cell = 0;       // of the scale that was clicked last
         bool shown = false; // in the boxes; then it is a cell of the working scale
     };

@@ -5,6 +5,7 @@
 #include "ui/placer.h"
 #include "widgets/dialogs.h"
 #include "widgets/line.h"
+#include "widgets/picture_box.h"
 #include "widgets/sunken_border.h"
 
 #include <QDialog>
@@ -35,7 +36,6 @@ public:
     explicit AboutWindow(QWidget& parent)
         : QDialog(&parent), Placer(*this, "About " + program_title, {5685, 5190}) {
         setObjectName("frmAbout");
-        setWindowIcon(parent.windowIcon());
         // The place is that of the client area, without the frame.
         setGeometry(QRect(to_pixels({2340, 1935}, logicalDpiX()).topLeft(), size()));
 
@@ -52,7 +52,8 @@ public:
         button(cmdSysInfo_, "cmdSysInfo", "System Info", {4320, 3600, 1245, 705});
 
         give_sunken_border(picIcon_);
-        picIcon_.setPixmap(program_picture(devicePixelRatioF(), shrink()));
+        picIcon_.show_image(program_picture());
+        picIcon_.set_zoom(shrink());
         for (QLabel* text : {&lblTitle_, &lblVersion_, &Label1_, &lblDescription_, &lblDisclaimer_})
             text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         // Together the lines look etched into the window.
@@ -78,7 +79,8 @@ private:
         qt_dialogs(*this).tell("System Information Is Unavailable At This Time");
     }
 
-    QLabel picIcon_, lblTitle_, lblVersion_, Label1_, lblDescription_, lblDisclaimer_;
+    PictureBox picIcon_;
+    QLabel lblTitle_, lblVersion_, Label1_, lblDescription_, lblDisclaimer_;
     std::array<Line, 2> Line1_;
     Button cmdOK_, cmdSysInfo_;
 };

@@ -31,6 +31,11 @@ Cirrava::Cirrava(Dialogs dialogs) : cdlopen_(std::move(dialogs)) {
     fit_captions(*this);
 }
 
+void Cirrava::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    keep_size(*this);
+}
+
 void Cirrava::connect_scales() {
     auto& c = controls_;
     for (const ScaleControls& scale : c.scales) {
@@ -103,17 +108,20 @@ void Cirrava::connect_keys() {
     const auto press = [this](QKeyCombination keys, const QList<Button*>& buttons) {
         auto* const shortcut = new QShortcut(keys, this); // the window owns it
         shortcut->setAutoRepeat(false);
-        for (Button* button : buttons) // a disabled one does nothing
+        for (Button* button : buttons) { // a disabled one does nothing
             connect(shortcut, &QShortcut::activated, button, &Button::click);
+            if (button->toolTip().isEmpty())
+                button->setToolTip(QKeySequence(keys).toString(QKeySequence::NativeText));
+        }
     };
     press(Qt::Key_F1, {&c.Command4});
+    press(Qt::Key_F2, {&c.thermal_butt});
+    press(Qt::Key_F3, {&c.Sea_butt});
+    press(Qt::Key_F4, {&c.hvc_butt});
     press(Qt::CTRL | Qt::Key_O, {&c.Command5});
     press(Qt::CTRL | Qt::Key_S, {&c.thermal_command, &c.sea_command, &c.hvc_command});
     press(Qt::CTRL | Qt::Key_Return, {&c.Command2});
     press(Qt::CTRL | Qt::Key_Enter, {&c.Command2});
-    press(Qt::CTRL | Qt::Key_1, {&c.thermal_butt});
-    press(Qt::CTRL | Qt::Key_2, {&c.Sea_butt});
-    press(Qt::CTRL | Qt::Key_3, {&c.hvc_butt});
 }
 
 void Cirrava::copy_colour(Side side) {

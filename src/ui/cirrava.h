@@ -19,6 +19,9 @@ public:
     Cirrava() : Cirrava(qt_dialogs(*this)) {}
     explicit Cirrava(Dialogs dialogs);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     template <class Action> void on_click(Button& button, Action action) {
         connect(&button, &Button::clicked, this, action);

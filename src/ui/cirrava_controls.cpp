@@ -3,6 +3,7 @@
 #include "scale_editor/qt_values.h"
 #include "ui/placer.h"
 #include "widgets/spoken_colour.h"
+#include "widgets/sunken_border.h"
 
 #include <algorithm>
 
@@ -101,14 +102,14 @@ CirravaControls::CirravaControls(QWidget& window) : Placer(window, "Cirrava PAL"
     label(Label4, "Label4", "Now Working", {0, 7200, 1095, 255});
     label(Label5, "Label5", "", {1080, 7200, 855, 255}, green);
     label(Label6, "Label6", "Start", {0, 7560, 375, 255});
-    control(Text1, "Text1", "Start, degrees Celsius", {480, 7560, 855, 285});
+    box(Text1, "Text1", "Start, degrees Celsius", {480, 7560, 855, 285});
     label(Label8, "Label8", "C", {1560, 7560, 255, 255});
     label(Label7, "Label7", "End", {1800, 7560, 495, 255});
-    control(Text2, "Text2", "End, degrees Celsius", {2280, 7560, 855, 285});
+    box(Text2, "Text2", "End, degrees Celsius", {2280, 7560, 855, 285});
     label(Label9, "Label9", "C", {3360, 7560, 255, 255});
-    control(Text3, "Text3", "Start, degrees Fahrenheit", {480, 7920, 855, 285});
+    box(Text3, "Text3", "Start, degrees Fahrenheit", {480, 7920, 855, 285});
     label(Label10, "Label10", "F", {1560, 7920, 255, 255});
-    control(Text4, "Text4", "End, degrees Fahrenheit", {2280, 7920, 855, 285});
+    box(Text4, "Text4", "End, degrees Fahrenheit", {2280, 7920, 855, 285});
     label(Label11, "Label11", "F", {3360, 7920, 255, 255});
     button(Command1, "Command1", "Reset", {1200, 8280, 1335, 375}, size_12);
 
@@ -128,9 +129,11 @@ CirravaControls::CirravaControls(QWidget& window) : Placer(window, "Cirrava PAL"
     for (int i = 0; i < std::ssize(color); ++i) {
         const QRgb colour = preset_colours[i];
         const int slot = i < 8 || i % 8 > 1 ? i : i % 8 == 0 ? i + 1 : i - 1;
-        button(color[i], member("color", i), "", {2040 + 240 * slot, 7200, 255, 255},
+        button(color[i], member("color", i), "", {2040 + 240 * slot, 7200, 240, 240},
                {.ground = colour});
-        color[i].setAccessibleName(QString("Preset %1: ").arg(i) + spoken_colour(colour));
+        color[i].resize(color[i].size() + QSize(1, 1)); // neighbours share an edge at every size
+        color[i].setAccessibleName(QString("Preset %1: ").arg(i + 1) + spoken_colour(colour));
+        color[i].setToolTip(colour_numbers(colour));
     }
 
     // Window buttons
@@ -139,14 +142,14 @@ CirravaControls::CirravaControls(QWidget& window) : Placer(window, "Cirrava PAL"
     button(Command5, "Command5", "Load From File", {4440, 8760, 2295, 495}, size_13);
     button(Command6, "Command6", "Quit", {12120, 8760, 1455, 495}, size_13);
 
-    Image1.setPixmap(program_picture(window.devicePixelRatioF(), shrink()));
+    Image1.show_image(program_picture());
+    Image1.set_zoom(shrink());
+    give_sunken_border(Picture1);
+    Picture1.setFocusPolicy(Qt::TabFocus);
     Picture1.set_zoom(shrink());
     const int off_the_picture = Label1.fontMetrics().averageCharWidth() / 2;
     Label1.setContentsMargins(off_the_picture, 0, 0, 0);
     Command2.setToolTip("Click to apply color to range selected");
-    for (QLineEdit* box : QList<QLineEdit*>{&Text1, &Text2, &Text3, &Text4})
-        box->setReadOnly(true);
-
     QWidgetList order{&Text1,    &Text2,           &Text3,       &Text4,      &HScroll1, &HScroll2,
                       &HScroll3, &sample,          &Command2,    &Command3,   &Command4, &Command5,
                       &Command6, &thermal_command, &sea_command, &hvc_command};
@@ -164,8 +167,16 @@ void CirravaControls::ticks(std::span<QLabel> labels, const QString& name, int i
     for (const int left : lefts) {
         const QString text = to_qt(tick_text(kind, std::min(20 * i, cell_count(kind) - 1)));
         label(labels[i], member(name, i), text, {left, top, width, 255});
+        labels[i].setContentsMargins(0, 2, 0, 0); // off the line under the cells
         ++i;
     }
+}
+
+// The name of a box is its text, and what it is for its description.
+void CirravaControls::box(TextBox& box, const QString& name, const QString& spoken,
+                          const TwipRect& rect) {
+    control(box, name, {}, rect);
+    box.setAccessibleDescription(spoken);
 }
 
 void CirravaControls::cells(CellArray& cells, const QString& name, const QString& spoken, int left,

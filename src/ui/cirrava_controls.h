@@ -11,9 +11,9 @@
 #include "widgets/picture_box.h"
 #include "widgets/slider.h"
 #include "widgets/swatch.h"
+#include "widgets/text_box.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <array>
 #include <initializer_list>
 #include <span>
@@ -26,7 +26,8 @@ struct CirravaControls : private Placer {
     explicit CirravaControls(QWidget& window);
 
     // Title and decoration
-    QLabel Label1, Label32, Image1;
+    QLabel Label1, Label32;
+    PictureBox Image1;
     Line Line1, Line2;
 
     // The scales: their choice, cells and files
@@ -50,7 +51,7 @@ struct CirravaControls : private Placer {
     // The range: working scale, start and end in degrees Celsius, both in Fahrenheit, captions
     QLabel Label4, Label5;
     RangeBox Text1, Text2;
-    QLineEdit Text3, Text4;
+    TextBox Text3, Text4;
     QLabel Label6, Label7, Label8, Label9, Label10, Label11;
     Button Command1; // Reset
 
@@ -76,6 +77,7 @@ private:
     // has no such cell, the last one.
     void ticks(std::span<QLabel> labels, const QString& name, int i, ScaleKind kind, int top,
                int width, std::initializer_list<int> lefts);
+    void box(TextBox& box, const QString& name, const QString& spoken, const TwipRect& rect);
     void cells(CellArray& cells, const QString& name, const QString& spoken, int left, int top);
 };
 

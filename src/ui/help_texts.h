@@ -6,31 +6,32 @@ namespace cirrava {
 inline constexpr char how_to_use_text[] =
     R"(Cirrava PAL generates colour palette files in the format that Cirrava requires for its Thermal, Sea Surface temperature and HVC enhancements. These files are called CLUT files (colour look-up tables). They are Cirrava's source of colours for temperatures when it generates a map. Without them, Cirrava uses its default colours.
 
-1. The main screen shows three temperature scales, one for each enhancement: Thermal, Sea Surface and HVC. Click the button of the enhancement that you want to work on; it turns green. Ctrl+1, Ctrl+2 and Ctrl+3 do the same, and F1 shows this help.
+1. The main screen shows three temperature scales, one for each enhancement: Thermal, Sea Surface and HVC. Click the button of the enhancement that you want to work on; it turns green.
 
 2. The objective is to set the colours that you prefer for temperature intervals, and then to generate the bmp files for the three enhancements.
 
 3. Procedure :
 
 a. Set the temperature range on the scale:
-Left click on the scale to set the start of the range, right click to set its end. Rest the pointer on the scale to read its temperatures. A range may be a single temperature, for example "0" degrees C: left click and right click the same place. A blue line under the scale shows what is marked. With the keyboard, go to the Start and End boxes: Up and Down (or Right and Left) go one step warmer or colder, Page Up and Page Down ten, Ctrl+Home and Ctrl+End to the ends of the scale.
+Left click on the scale to set the start of the range, right click to set its end. Rest the pointer on the scale to read its temperatures. A range may be a single temperature, for example "0" degrees C: left click and right click the same place. A blue line under the scale shows what is marked.
 
 b. Set the Color for selected range:
-Choose a colour in the bottom part of the screen, with the easy color pick buttons or, for custom colours, with the yellow "Advanced Color Picker" button. Adjust it with the red, green and blue sliders, and see it in the sample area on the right. Then click the "Apply Color" button, or press Ctrl+Enter. Ctrl+Z takes a change back, Ctrl+Y brings it back.
+Choose a colour in the bottom part of the screen, with the easy color pick buttons or, for custom colours, with the yellow "Advanced Color Picker" button. Adjust it with the red, green and blue sliders, whose tracks show what they would make of it, and see it in the sample area on the right. Then click the "Apply Color" button. A change can be undone, and redone.
 
 c. Copy color from one area to another:
-Double click on a scale to copy the colour of that place into the sample area. From there you can apply it to any range of any scale. The double click also sets the start of the range, so copy the colour first and mark the range then. In the Start and End boxes, Enter copies the colour.
+Double click on a scale to copy the colour of that place into the sample area. From there you can apply it to any range of any scale. The double click also sets the start of the range, so copy the colour first and mark the range then.
 
 d. Generate color lookup table for Cirrava from your color settings
-Click the generate button beside each enhancement (it works once the enhancement is the one you are working on), or press Ctrl+S; choose a file name and confirm. Copy the bmp file produced into Cirrava's installation folder. It is best to keep Cirrava PAL in that folder and to run it there: the file dialog then opens there by itself.
+Click the generate button beside an enhancement, choose a file name and confirm. The button is enabled while you work on that enhancement. Copy the bmp file produced into Cirrava's installation folder. It is best to keep Cirrava PAL in that folder and to run it there: the file dialog then opens there by itself.
 
 e. Load an already generated CLUT and modify it
-Click "Load From File", or press Ctrl+O, to read a bmp file made by Cirrava PAL (or an identical bmp) into its scale. The program identifies the enhancement by itself. The colours of an HVC file come back a little darker than they were saved.
+Click "Load From File" to read a bmp file made by Cirrava PAL (or an identical bmp) into its scale. The program identifies the enhancement by itself. The colours of an HVC file come back a little darker than they were saved.
 
 f. Tell Cirrava to use your new CLUT file
 Configure Cirrava's image and movie options to use the files that you generated.
 
-g. The HVC palette can be previewed in two dimensions before you generate its file. Select a range of the HVC scale with left and right clicks and slide the brightness bar: towards "Darker" or "Lighter", the further the more. With no range selected (click "Reset" first) the change applies to the whole scale; a dotted line shows it. "Reset" is for the brightness only: to apply a colour to the whole scale, press Ctrl+Home in the Start box and Ctrl+End in the End box. The image is shown at once, and kept in the file ~~temphvc.bmp in the current folder; when that file cannot be written, start Cirrava PAL in a folder of your own. The yellow button beside the scale gives more information.
+g. Preview the HVC palette and change its brightness
+The HVC palette can be previewed in two dimensions before you generate its file. Select a range of the HVC scale with left and right clicks and slide the brightness bar: the further you slide it towards "Darker" or "Lighter", the more the colours change. With no range selected, after a click on "Reset", the change applies to the whole scale. A dotted line shows which cells change. "Reset" selects the whole scale for the brightness bar; to apply a colour to all of it, mark its first and its last cell. The image is shown at once. It is also kept in the file ~~temphvc.bmp in the folder from which Cirrava PAL was started, such as your home folder; when that file cannot be written, start Cirrava PAL in a folder of your own. The yellow button beside the scale gives more information.
 
 In Future versions
 1. A small scale embedded in the final images.
@@ -48,6 +49,21 @@ The HVC palette preview was added. The scale display character was removed.
 
 Version 2.1
 Several corrections. The buttons that select the current working scale were added.
+
+Keys
+F1: this help
+F2, F3, F4: Thermal, Sea Surface, HVC
+Ctrl+Enter: Apply Color
+Ctrl+S: generate the palette of the scale that you work on
+Ctrl+O: Load From File
+Ctrl+Z: undo a change of colours
+Ctrl+Y or Ctrl+Shift+Z: redo it
+
+Keys in the Start and End boxes
+Up, Down (or Right, Left): one step warmer or colder
+Page Up, Page Down: ten steps warmer or colder
+Ctrl+Home, Ctrl+End: to the ends of the scale
+Enter: copy the colour of that place
 )";
 
 inline constexpr char hvc_text[] =

@@ -15,6 +15,19 @@ constexpr QRgb paper = qRgb(255, 192, 128);
 constexpr QRgb dark_green = qRgb(0, 64, 0);
 constexpr QRgb green = qRgb(0, 128, 0);
 
+// A text to read, of which only whole lines show.
+class HelpText : public QPlainTextEdit {
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        const QRect box = viewport()->rect();
+        const QRect last_line = cursorRect(cursorForPosition(box.bottomLeft()));
+        const bool is_cut = last_line.bottom() > box.bottom();
+        QPaintEvent whole_lines(
+            event->rect() & (is_cut ? box.adjusted(0, 0, 0, last_line.top() - box.height()) : box));
+        QPlainTextEdit::paintEvent(&whole_lines);
+    }
+};
+
 // A window with a text to read and a button that closes it.
 class HelpWindow : public QDialog, public Placer {
 public:
@@ -41,20 +54,23 @@ public:
     }
 
     QLabel Label1;
-    QPlainTextEdit Text1;
+    HelpText Text1;
     Button Command1;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
         QWidget::keyPressEvent(event); // neither Esc nor Enter closes the window
     }
+
+    // QDialog would put itself over its parent, and its title bar above the screen where the parent
+    // stands high. The windowing system chooses a better place.
+    void showEvent(QShowEvent* event) override { QWidget::showEvent(event); }
 };
 
 } // namespace
 
 void show_palhelp(QWidget& parent) {
     HelpWindow window(parent, "palhelp", "Cirrava PAL How To", {10170, 9255});
-    window.setWindowIcon(parent.windowIcon());
     window.text(how_to_use_text, {240, 240, 9375, 8175}, dark_green, {.points = 12});
     window.button(window.Command1, "Command1", "Exit", {3600, 8520, 2295, 615});
     window.exec();

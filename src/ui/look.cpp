@@ -2,10 +2,8 @@
 
 #include <QApplication>
 #include <QImageReader>
-#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
-#include <QStyleOptionComplex>
 
 namespace cirrava {
 
@@ -45,16 +43,6 @@ public:
             return QProxyStyle::styleHint(hint, option, widget, data);
         }
     }
-
-    // The clip makes Qt draw translucent lines at once. Without it, Qt draws them pixel by pixel in
-    // threads that it starts for them, which delays the first painting.
-    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
-                            QPainter* painter, const QWidget* widget) const override {
-        painter->save();
-        painter->setClipRect(option->rect, Qt::IntersectClip);
-        QProxyStyle::drawComplexControl(control, option, painter, widget);
-        painter->restore();
-    }
 };
 
 QPalette light_palette() {
@@ -69,9 +57,13 @@ QPalette light_palette() {
     palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 225));
     palette.setColor(QPalette::ToolTipText, Qt::black);
     palette.setColor(QPalette::PlaceholderText, QColor(110, 110, 110));
-    const QColor faint(120, 120, 120);
+    palette.setColor(QPalette::Button, QColor(250, 250, 250));
+    const QColor edge(120, 120, 120); // 3.9 to 1 against the ground
+    palette.setColor(QPalette::Mid, edge);
     for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
-        palette.setColor(QPalette::Disabled, role, faint);
+        palette.setColor(QPalette::Disabled, role, edge);
+    palette.setColor(QPalette::Disabled, QPalette::Button, QColor(240, 240, 240));
+    palette.setColor(QPalette::Disabled, QPalette::Mid, QColor(190, 190, 190));
     return palette;
 }
 
@@ -86,15 +78,8 @@ QFont to_font(const FontLook& look) {
     return font;
 }
 
-QPixmap program_picture(double device_pixels, double zoom) {
-    const QString suffix =
-        device_pixels <= 1 ? QString() : QString("@%1x").arg(device_pixels <= 2 ? 2 : 3);
-    QImage image = read_png(":/picture" + suffix + ".png");
-    const QSize size = (QSizeF(72, 96) * device_pixels * zoom).toSize();
-    if (image.size() != size)
-        image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    image.setDevicePixelRatio(device_pixels);
-    return QPixmap::fromImage(image);
+QImage program_picture() {
+    return read_png(":/picture@3x.png");
 }
 
 QIcon program_icon() {

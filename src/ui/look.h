@@ -2,7 +2,7 @@
 
 #include <QFont>
 #include <QIcon>
-#include <QPixmap>
+#include <QImage>
 #include <QRgb>
 #include <optional>
 
@@ -31,9 +31,8 @@ struct Look {
 
 QFont to_font(const FontLook& look);
 
-// The satellite above the earth: 72 x 96 pixels times `zoom`, sharp on a screen with so many device
-// pixels to a pixel.
-QPixmap program_picture(double device_pixels, double zoom);
+// The satellite above the earth, 72 x 96 pixels at three times their density.
+QImage program_picture();
 
 QIcon program_icon();
 

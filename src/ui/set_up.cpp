@@ -5,12 +5,14 @@
 #include "widgets/held_enter.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QSettings>
 
 namespace cirrava {
 
 void set_up_process() {
     let_writes_past_size_limit_fail();
+    QLocale::setDefault(QLocale::English); // the language of all texts, for sizes and dates, too
     QApplication::setDesktopSettingsAware(false);
     // Qt's dialogs would keep histories between runs, and find nowhere for them. On Windows this
     // needs the Qt that packaging/windows builds.

@@ -1,8 +1,8 @@
 #include "widgets/button.h"
 
+#include "widgets/key.h"
+
 #include <QKeyEvent>
-#include <QStyleOptionButton>
-#include <QStylePainter>
 
 namespace cirrava {
 
@@ -19,15 +19,12 @@ QRect Button::caption_box() const {
 }
 
 void Button::paintEvent(QPaintEvent*) {
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    QStylePainter painter(this);
-    if (face_.isValid())
-        paint_face(painter, isDown() ? face_.darker(125) : face_);
-    else
-        painter.drawControl(QStyle::CE_PushButtonBevel, option);
-    const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
-    painter.setPen(palette().color(group, QPalette::ButtonText));
+    QPainter painter(this);
+    const QColor face = face_.isValid() ? face_ : palette().color(QPalette::Button);
+    paint_key(painter, rect(), isDown() ? face.darker(125) : face,
+              palette().color(isDefault() ? QPalette::Highlight : QPalette::Mid),
+              isDown() || isDefault() ? 2 : 1);
+    painter.setPen(palette().color(QPalette::ButtonText));
     painter.drawText(caption_box(), Qt::AlignCenter | Qt::TextDontClip | Qt::TextWordWrap, text());
 }
 
@@ -37,14 +34,6 @@ void Button::keyPressEvent(QKeyEvent* event) {
         click();
     else
         QPushButton::keyPressEvent(event);
-}
-
-// Paints the face and a fine outline around it, which leaves out the corners.
-void Button::paint_face(QStylePainter& painter, const QColor& colour) const {
-    const QColor outline = palette().color(QPalette::Window).darker(170);
-    painter.fillRect(rect().adjusted(1, 0, -1, 0), outline);
-    painter.fillRect(rect().adjusted(0, 1, 0, -1), outline);
-    painter.fillRect(rect().adjusted(1, 1, -1, -1), colour);
 }
 
 } // namespace cirrava

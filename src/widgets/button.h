@@ -2,16 +2,14 @@
 
 #include <QPushButton>
 
-class QStylePainter;
-
 namespace cirrava {
 
-// A push button that can be painted in a colour of its own, flat and exact, with its caption
-// wrapped and shown as it is, a "&" too. Enter and Space press it.
+// A push button whose flat face can have a colour of its own, with its caption wrapped and shown as
+// it is, a "&" too. Enter and Space press it.
 class Button : public QPushButton {
     Q_OBJECT
 public:
-    // An invalid colour gives back the standard look.
+    // An invalid colour gives back the standard face.
     void set_face(const QColor& face);
     QColor face() const { return face_; }
 
@@ -22,8 +20,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void paint_face(QStylePainter& painter, const QColor& colour) const;
-
     QColor face_;
 };
 

@@ -1,15 +1,8 @@
 #include "widgets/picture_box.h"
 
-#include "widgets/sunken_border.h"
-
 #include <QPainter>
 
 namespace cirrava {
-
-PictureBox::PictureBox() {
-    give_sunken_border(*this);
-    setFocusPolicy(Qt::TabFocus);
-}
 
 void PictureBox::show_image(const QImage& image) {
     image_ = image;
@@ -19,7 +12,13 @@ void PictureBox::show_image(const QImage& image) {
 void PictureBox::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setClipRect(contentsRect());
-    painter.drawImage(QRectF(contentsRect().topLeft(), image_.size() * zoom_), image_);
+    const QSizeF size = image_.deviceIndependentSize() * zoom_;
+    const QSize device_size = (size * devicePixelRatioF()).toSize();
+    const bool smaller = device_size.width() < image_.width();
+    painter.drawImage(
+        QRectF(contentsRect().topLeft(), size),
+        smaller ? image_.scaled(device_size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                : image_);
     painter.setClipping(false);
     QFrame::paintEvent(event);
 }

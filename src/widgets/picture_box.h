@@ -5,14 +5,12 @@
 
 namespace cirrava {
 
-// A box with a sunken border that shows an image at its top left, each pixel of it as a sharp
-// square on every screen. It starts empty.
+// A frame that shows an image at its top left: each pixel as a sharp square on every screen, but
+// smoothed where the image has more pixels than the screen has for it. It starts empty.
 class PictureBox : public QFrame {
     Q_OBJECT
 public:
-    PictureBox();
-
-    // Sets the width of an image's pixel in pixels of the box.
+    // Sets the width in pixels of the box of what the image counts as one.
     void set_zoom(double zoom) { zoom_ = zoom; }
 
     void show_image(const QImage& image);

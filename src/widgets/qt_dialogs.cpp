@@ -1,23 +1,26 @@
+#include "widgets/button.h"
 #include "widgets/dialogs.h"
 
+#include <QAccessibleWidget>
 #include <QClipboard>
 #include <QColorDialog>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
-#include <QGridLayout>
 #include <QGuiApplication>
+#include <QHash>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
-#include <QMessageBox>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QTreeView>
 #include <QUrl>
+#include <QVBoxLayout>
 #include <functional>
 
 namespace cirrava {
@@ -56,7 +59,8 @@ void make_room_for_names(QFileDialog& dialog) {
 
 std::optional<QString> ask_for_file(QWidget& parent, QFileDialog::AcceptMode mode,
                                     const FileQuestion& question) {
-    QFileDialog dialog(&parent, question.title, question.folder, question.filter);
+    QFileDialog dialog(&parent, question.title, question.folder,
+                       question.filter + ";;All files (*)");
     // The desktop's own dialogs cannot be kept from asking about overwriting everywhere.
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
     dialog.setFileMode(QFileDialog::AnyFile);
@@ -83,46 +87,66 @@ QString breakable(const QString& text, const QFontMetrics& metrics, int width) {
     return words.join(u' ');
 }
 
-class MessageBox : public QMessageBox {
+// A text and a row of buttons, of which the first is the default. Qt's own message box keeps room
+// for an icon that is not there.
+class MessageBox : public QDialog {
 public:
-    MessageBox(QWidget& parent, const QString& title, const QString& text, StandardButtons buttons)
-        : QMessageBox(NoIcon, title, {}, buttons, &parent), text_(text) {
-        setTextFormat(Qt::PlainText);
-        show_broken_where_long();
-        if (buttons.testFlag(Yes))
-            setDefaultButton(Yes);
-        make_room_for_title();
+    MessageBox(QWidget& parent, const QString& title, const QString& text,
+               const QStringList& captions)
+        : QDialog(&parent), text_(text) {
+        QAccessible::installFactory(accessible_alert); // once, however often it is asked for
+        setWindowTitle(title);
+        auto* const column = new QVBoxLayout(this);
+        column->setSizeConstraint(QLayout::SetFixedSize);
+        column->addWidget(label());
+        auto* const row = new QDialogButtonBox;
+        for (const QString& caption : captions) {
+            auto* const button = new Button; // the row owns it
+            button->setText(caption);
+            row->addButton(button, caption == "No" ? QDialogButtonBox::NoRole
+                                                   : QDialogButtonBox::AcceptRole);
+            keys_[caption.front().unicode()] = button;
+        }
+        connect(row, &QDialogButtonBox::accepted, this, &QDialog::accept);
+        connect(row, &QDialogButtonBox::rejected, this, &QDialog::reject);
+        column->addWidget(row);
     }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
         if (event->matches(QKeySequence::Copy))
             QGuiApplication::clipboard()->setText(text_);
+        else if (Button* const button = keys_.value(event->key()))
+            button->click();
         else
-            QMessageBox::keyPressEvent(event);
+            QDialog::keyPressEvent(event);
     }
 
 private:
-    // The clipboard and screen readers get the text without the breaks.
-    void show_broken_where_long() {
-        setText(breakable(text_, fontMetrics(), screen()->availableGeometry().width() / 2));
-        if (text() == text_)
-            return;
-        setTextInteractionFlags(Qt::NoTextInteraction);
-        for (auto* const label : findChildren<QLabel*>())
-            if (label->text() == text())
-                label->setAccessibleName(text_);
+    QLabel* label() const {
+        const QFontMetrics metrics = fontMetrics();
+        const int room = screen()->availableGeometry().width() / 2;
+        // A title is about as wide in the fonts of most desktops, with an icon and buttons beside
+        // it.
+        const int title = 2 * metrics.horizontalAdvance(windowTitle()) + 10 * metrics.height();
+        const QString shown = breakable(text_, metrics, room);
+        auto* const label = new QLabel(shown);
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        label->setMinimumWidth(qMax(title, qMin(metrics.size(0, text_).width(), room)));
+        label->setAccessibleName(text_); // without the breaks, which marked text would have
+        if (shown == text_)
+            label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        return label;
     }
 
-    // The title is as wide in the fonts of most desktops, with an icon and buttons beside it.
-    void make_room_for_title() {
-        const int room =
-            2 * fontMetrics().horizontalAdvance(windowTitle()) + 10 * fontMetrics().height();
-        if (auto* const grid = qobject_cast<QGridLayout*>(layout()))
-            grid->addItem(new QSpacerItem(room, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    static QAccessibleInterface* accessible_alert(const QString&, QObject* object) {
+        auto* const box = dynamic_cast<MessageBox*>(object);
+        return box != nullptr ? new QAccessibleWidget(box, QAccessible::AlertMessage) : nullptr;
     }
 
-    QString text_;
+    const QString text_;
+    QHash<int, Button*> keys_; // the first letter of each caption
 };
 
 std::optional<QColor> ask_for_colour(QWidget& parent, const QColor& initial) {
@@ -132,12 +156,11 @@ std::optional<QColor> ask_for_colour(QWidget& parent, const QColor& initial) {
 }
 
 bool ask(QWidget& parent, const QString& text, const QString& title) {
-    return MessageBox(parent, title, text, QMessageBox::Yes | QMessageBox::No).exec() ==
-           QMessageBox::Yes;
+    return MessageBox(parent, title, text, {"Yes", "No"}).exec() == QDialog::Accepted;
 }
 
 void tell(QWidget& parent, const QString& text) {
-    MessageBox(parent, program_title, text, QMessageBox::Ok).exec();
+    MessageBox(parent, program_title, text, {"OK"}).exec();
 }
 
 } // namespace

@@ -13,4 +13,9 @@ inline QString spoken_colour(const QColor& colour) {
         .arg(colour.blue());
 }
 
+// A colour as its tooltip tells it: "192, 0, 0".
+inline QString colour_numbers(const QColor& colour) {
+    return QString("%1, %2, %3").arg(colour.red()).arg(colour.green()).arg(colour.blue());
+}
+
 } // namespace cirrava

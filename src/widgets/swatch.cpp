@@ -17,6 +17,7 @@ void Swatch::set_colour(const QColor& colour) {
         return;
     colour_ = colour;
     setAccessibleDescription(spoken_colour(colour));
+    setToolTip(colour_numbers(colour));
     update();
 }
 

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "widgets/sunken_border.h"
+
+#include <QLabel>
+
+namespace cirrava {
+
+// A sunken box with a line of text, which Tab reaches but nobody types into. The text can be marked
+// with the mouse and copied.
+class TextBox : public QLabel {
+public:
+    TextBox() {
+        give_sunken_border(*this);
+        setBackgroundRole(QPalette::Base);
+        setAutoFillBackground(true);
+        setTextFormat(Qt::PlainText);
+        setTextInteractionFlags(Qt::TextSelectableByMouse);
+        setFocusPolicy(Qt::StrongFocus);
+    }
+};
+
+} // namespace cirrava
