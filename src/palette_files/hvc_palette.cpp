@@ -2,7 +2,6 @@
 
 #include "palette_files/palette_image.h"
 #include "palette_files/save_palette.h"
-#include "platform/binary_file.h"
 #include "platform/failure.h"
 
 #include <QImage>

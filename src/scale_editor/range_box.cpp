@@ -19,15 +19,14 @@ public:
     }
 };
 
-QAccessibleInterface* accessible_range_box(const QString&, QObject* object) {
-    auto* const box = qobject_cast<RangeBox*>(object);
-    return box != nullptr ? new AccessibleRangeBox(*box) : nullptr;
-}
-
 } // namespace
 
 RangeBox::RangeBox() {
-    QAccessible::installFactory(accessible_range_box); // once, however often it is asked for
+    // The same function is installed once, however often.
+    QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
+        auto* const box = qobject_cast<RangeBox*>(object);
+        return box != nullptr ? new AccessibleRangeBox(*box) : nullptr;
+    });
 }
 
 void RangeBox::keyPressEvent(QKeyEvent* event) {

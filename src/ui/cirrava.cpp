@@ -11,6 +11,7 @@
 
 #include <QCoreApplication>
 #include <QShortcut>
+#include <QWindow>
 #include <utility>
 
 namespace cirrava {
@@ -31,9 +32,13 @@ Cirrava::Cirrava(Dialogs dialogs) : cdlopen_(std::move(dialogs)) {
     fit_captions(*this);
 }
 
-void Cirrava::showEvent(QShowEvent* event) {
-    QMainWindow::showEvent(event);
-    keep_size(*this);
+// On a screen of another density the window would keep its number of device pixels. To set the size
+// that it has already would reach no window manager.
+void Cirrava::showEvent(QShowEvent*) {
+    connect(windowHandle(), &QWindow::screenChanged, this, [this, right_size = size()] {
+        setFixedSize(right_size + QSize(1, 1));
+        setFixedSize(right_size);
+    });
 }
 
 void Cirrava::connect_scales() {

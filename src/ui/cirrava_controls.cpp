@@ -147,8 +147,7 @@ CirravaControls::CirravaControls(QWidget& window) : Placer(window, "Cirrava PAL"
     give_sunken_border(Picture1);
     Picture1.setFocusPolicy(Qt::TabFocus);
     Picture1.set_zoom(shrink());
-    const int off_the_picture = Label1.fontMetrics().averageCharWidth() / 2;
-    Label1.setContentsMargins(off_the_picture, 0, 0, 0);
+    Label1.setIndent(5); // off the picture
     Command2.setToolTip("Click to apply color to range selected");
     QWidgetList order{&Text1,    &Text2,           &Text3,       &Text4,      &HScroll1, &HScroll2,
                       &HScroll3, &sample,          &Command2,    &Command3,   &Command4, &Command5,

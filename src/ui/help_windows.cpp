@@ -19,11 +19,11 @@ constexpr QRgb green = qRgb(0, 128, 0);
 class HelpText : public QPlainTextEdit {
 protected:
     void paintEvent(QPaintEvent* event) override {
-        const QRect box = viewport()->rect();
+        QRect box = viewport()->rect();
         const QRect last_line = cursorRect(cursorForPosition(box.bottomLeft()));
-        const bool is_cut = last_line.bottom() > box.bottom();
-        QPaintEvent whole_lines(
-            event->rect() & (is_cut ? box.adjusted(0, 0, 0, last_line.top() - box.height()) : box));
+        if (last_line.bottom() > box.bottom())
+            box.setBottom(last_line.top() - 1);
+        QPaintEvent whole_lines(event->rect() & box);
         QPlainTextEdit::paintEvent(&whole_lines);
     }
 };

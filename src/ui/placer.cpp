@@ -3,7 +3,6 @@
 #include "widgets/focus_outline.h"
 
 #include <QScreen>
-#include <QWindow>
 #include <QtMath>
 
 namespace cirrava {
@@ -111,14 +110,6 @@ void fit_captions(QWidget& window) {
         fit(*label, label->text().trimmed(), label->contentsRect());
     for (auto* const button : window.findChildren<Button*>())
         fit(*button, button->text().trimmed(), button->caption_box());
-}
-
-void keep_size(QWidget& window) {
-    QObject::connect(window.windowHandle(), &QWindow::screenChanged, &window,
-                     [&window, size = window.size()] {
-                         window.setFixedSize(size + QSize(1, 1)); // the same size goes unheard
-                         window.setFixedSize(size);
-                     });
 }
 
 } // namespace cirrava

@@ -44,8 +44,4 @@ private:
 // called after the last caption is written.
 void fit_captions(QWidget& window);
 
-// Makes `window`, which is shown, keep its size when it moves to a screen of another density, where
-// it would keep its number of device pixels.
-void keep_size(QWidget& window);
-
 } // namespace cirrava

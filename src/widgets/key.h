@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QBrush>
-#include <QColor>
 #include <QPainter>
-#include <QRectF>
 
 namespace cirrava {
 

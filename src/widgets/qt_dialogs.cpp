@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QGuiApplication>
-#include <QHash>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -94,7 +93,11 @@ public:
     MessageBox(QWidget& parent, const QString& title, const QString& text,
                const QStringList& captions)
         : QDialog(&parent), text_(text) {
-        QAccessible::installFactory(accessible_alert); // once, however often it is asked for
+        // The same function is installed once, however often.
+        QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
+            auto* const box = dynamic_cast<MessageBox*>(object);
+            return box != nullptr ? new QAccessibleWidget(box, QAccessible::AlertMessage) : nullptr;
+        });
         setWindowTitle(title);
         auto* const column = new QVBoxLayout(this);
         column->setSizeConstraint(QLayout::SetFixedSize);
@@ -105,7 +108,6 @@ public:
             button->setText(caption);
             row->addButton(button, caption == "No" ? QDialogButtonBox::NoRole
                                                    : QDialogButtonBox::AcceptRole);
-            keys_[caption.front().unicode()] = button;
         }
         connect(row, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(row, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -115,11 +117,11 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override {
         if (event->matches(QKeySequence::Copy))
-            QGuiApplication::clipboard()->setText(text_);
-        else if (Button* const button = keys_.value(event->key()))
-            button->click();
-        else
-            QDialog::keyPressEvent(event);
+            return QGuiApplication::clipboard()->setText(text_);
+        for (auto* const button : findChildren<Button*>()) // pressed by its first letter
+            if (event->key() == button->text().front().unicode())
+                return button->click();
+        QDialog::keyPressEvent(event);
     }
 
 private:
@@ -140,13 +142,7 @@ private:
         return label;
     }
 
-    static QAccessibleInterface* accessible_alert(const QString&, QObject* object) {
-        auto* const box = dynamic_cast<MessageBox*>(object);
-        return box != nullptr ? new QAccessibleWidget(box, QAccessible::AlertMessage) : nullptr;
-    }
-
     const QString text_;
-    QHash<int, Button*> keys_; // the first letter of each caption
 };
 
 std::optional<QColor> ask_for_colour(QWidget& parent, const QColor& initial) {

@@ -2,7 +2,6 @@
 
 #include "widgets/key.h"
 
-#include <QLinearGradient>
 #include <QStyleOptionSlider>
 #include <QWheelEvent>
 
@@ -41,38 +40,32 @@ void Slider::give_up_drag() {
 void Slider::paintEvent(QPaintEvent*) {
     QStyleOptionSlider option;
     initStyleOption(&option);
-    const QRectF groove = box_of(QStyle::SC_ScrollBarGroove, option);
-    const QRectF thumb = box_of(QStyle::SC_ScrollBarSlider, option);
+    const auto box_of = [&](QStyle::SubControl part) {
+        return QRectF(style()->subControlRect(QStyle::CC_ScrollBar, &option, part, this));
+    };
+    const QRectF groove = box_of(QStyle::SC_ScrollBarGroove);
+    const QRectF thumb = box_of(QStyle::SC_ScrollBarSlider);
     const QPointF half_thumb(thumb.width() / 2, 0);
     QLinearGradient track(groove.topLeft() + half_thumb, groove.topRight() - half_thumb);
     track.setStops({{0, first_}, {1, last_}});
 
     QPainter painter(this);
-    paint_key(painter, rect(), track, palette().color(QPalette::Mid));
-    paint_arrow(painter, QStyle::SC_ScrollBarSubLine, option);
-    paint_arrow(painter, QStyle::SC_ScrollBarAddLine, option);
-    // The thumb is a black and a white frame.
-    paint_key(painter, thumb, palette().color(QPalette::Button),
-              palette().color(QPalette::ButtonText));
-    paint_key(painter, thumb, track, Qt::transparent, isSliderDown() ? 4 : 3);
-}
-
-QRectF Slider::box_of(QStyle::SubControl part, const QStyleOptionSlider& option) const {
-    return style()->subControlRect(QStyle::CC_ScrollBar, &option, part, this);
-}
-
-void Slider::paint_arrow(QPainter& painter, QStyle::SubControl part,
-                         const QStyleOptionSlider& option) const {
-    const bool down =
-        option.state.testFlag(QStyle::State_Sunken) && option.activeSubControls.testFlag(part);
     const QColor face = palette().color(QPalette::Button);
-    QStyleOption arrow = option;
-    arrow.rect = box_of(part, option).toRect();
-    paint_key(painter, arrow.rect, down ? face.darker(125) : face, palette().color(QPalette::Mid),
-              down ? 2 : 1);
-    style()->drawPrimitive(part == QStyle::SC_ScrollBarSubLine ? QStyle::PE_IndicatorArrowLeft
-                                                               : QStyle::PE_IndicatorArrowRight,
-                           &arrow, &painter, this);
+    paint_key(painter, rect(), track, palette().color(QPalette::Mid));
+    for (const bool left : {true, false}) {
+        const auto part = left ? QStyle::SC_ScrollBarSubLine : QStyle::SC_ScrollBarAddLine;
+        const bool down =
+            option.state.testFlag(QStyle::State_Sunken) && option.activeSubControls == part;
+        QStyleOption arrow = option;
+        arrow.rect = box_of(part).toRect();
+        paint_key(painter, arrow.rect, down ? face.darker(125) : face,
+                  palette().color(QPalette::Mid), down ? 2 : 1);
+        style()->drawPrimitive(left ? QStyle::PE_IndicatorArrowLeft
+                                    : QStyle::PE_IndicatorArrowRight,
+                               &arrow, &painter, this);
+    }
+    paint_key(painter, thumb, face, palette().color(QPalette::ButtonText)); // a double frame
+    paint_key(painter, thumb, track, Qt::transparent, isSliderDown() ? 4 : 3);
 }
 
 void Slider::wheelEvent(QWheelEvent* event) {

@@ -2,9 +2,6 @@
 
 #include <QColor>
 #include <QScrollBar>
-#include <QStyle>
-
-class QStyleOptionSlider;
 
 namespace cirrava {
 
@@ -27,9 +24,6 @@ protected:
 
 private:
     void give_up_drag();
-    QRectF box_of(QStyle::SubControl part, const QStyleOptionSlider& option) const;
-    void paint_arrow(QPainter& painter, QStyle::SubControl part,
-                     const QStyleOptionSlider& option) const;
 
     QColor first_, last_; // of the track
     int turned_ = 0;      // how far the wheel is past its last full notch, in eighths of a degree

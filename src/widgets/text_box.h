@@ -14,7 +14,6 @@ public:
         give_sunken_border(*this);
         setBackgroundRole(QPalette::Base);
         setAutoFillBackground(true);
-        setTextFormat(Qt::PlainText);
         setTextInteractionFlags(Qt::TextSelectableByMouse);
         setFocusPolicy(Qt::StrongFocus);
     }

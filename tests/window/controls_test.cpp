@@ -96,8 +96,8 @@ TEST_F(Controls, DisabledButtonsLookDisabledAndGiveTheFocusOn) {
     };
     EXPECT_TRUE(shows_black("thermal_command"));
     EXPECT_FALSE(shows_black("sea_command"));
-    act("press thermal_command F4");
-    EXPECT_TRUE(find("hvc_command").hasFocus());
+    act("click hvc_butt, press hvc_command F2");
+    EXPECT_TRUE(find("thermal_command").hasFocus());
 }
 
 } // namespace cirrava

@@ -59,13 +59,14 @@ TEST_F(Editing, ClicksAndKeysMarkTheRange) {
         {"right thermal_char 259", {"0.0", "19.5", "32", "67.1"}},
         {"left thermal_char 219", {"-0.5", "19.5", "31.1", "67.1"}},
         {"middle Label2 1", {" ", "-9.8", " ", "14.36"}},
+        {"click Sea_butt", {" ", "-9.8", " ", "14.36"}},
         {"press Text1 Up", {"-9.8", "-9.8", "14.36", "14.36"}}, // to the other side
         {"press Text1 PgUp", {"-7.8", "-9.8", "17.96", "14.36"}},
         {"press Text1 Left", {"-8.0", "-9.8", "17.6", "14.36"}},
-        {"press Text1 Down", {"-8.2", "-9.8", "17.24", "14.36"}},
+        {"press Text1 Num+Down", {"-8.2", "-9.8", "17.24", "14.36"}},
         {"press Text1 Ctrl+Home", {"-10.0", "-9.8", "14", "14.36"}},
+        {"press Text2 Right", {"-10.0", "-9.6", "14", "14.72"}},
         {"press Text2 Ctrl+End", {"-10.0", "39.8", "14", "103.64"}},
-        {"press Text2 Right", {"-10.0", "39.8", "14", "103.64"}}, // no further
         {"press Text2 F2", {" ", " ", " ", " "}},
         {"double Label3 99", {"39", " ", "102.2", " "}},
         {"right Label3 60", {"39", "0", "102.2", "32"}},
@@ -109,10 +110,15 @@ TEST_F(Editing, ColoursTheRangeAndTakesThatBack) {
     act("press Text1 Ctrl+Shift+Z, press Text1 Ctrl+Y, press Text1 Ctrl+Y"); // no further
     expect_only(thermal(), {9, 319}, RGB(255, 0, 0));
     expect_only(sea(), {0, 249}, RGB(255, 0, 1));
-    act("double thermal_char 9, left Label2 9, press Text1 Shift+Enter");
+    act("left Label2 9, press Text1 Shift+Enter"); // copies the colour, and so on
     EXPECT_EQ(swatch(), QColor(255, 0, 1));
-    act("double thermal_char 9");
+    act("right thermal_char 9, press Text2 Return");
     EXPECT_EQ(swatch(), Qt::red);
+    act("double Label2 9");
+    EXPECT_EQ(swatch(), QColor(255, 0, 1));
+    act("press Text1 Ctrl+Z, left thermal_char 0, right thermal_char 319, click Command2");
+    act("press Text1 Ctrl+Y"); // what was undone before a change
+    expect_only(sea(), {}, 0);
 }
 
 TEST_F(Editing, ShiftsTheBrightnessOfHvcCells) {

@@ -175,8 +175,9 @@ TEST_F(Layout, LinesUnderCellsShowWhatIsMarkedAndWhatTheBrightnessChanges) {
     };
     act("left thermal_char 20, right thermal_char 21");
     EXPECT_EQ(lines_of(thermal()), " -- ");
-    act("left Label3 22, right Label3 20");
+    act("click Sea_butt, click thermal_butt");
     EXPECT_EQ(lines_of(thermal()), "    ");
+    act("left Label3 22, right Label3 20");
     EXPECT_EQ(lines_of(hvc()), " - -");
     act("click Command1"); // the whole scale
     EXPECT_EQ(lines_of(hvc()), "::::");
