@@ -45,9 +45,9 @@ void RangeBox::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_PageDown:
         return emit stepped(-page);
     case (Qt::CTRL | Qt::Key_Home).toCombined():
-        return emit sent_to_coldest();
+        return emit sent_to_limit(false);
     case (Qt::CTRL | Qt::Key_End).toCombined():
-        return emit sent_to_warmest();
+        return emit sent_to_limit(true);
     default:
         TextBox::keyPressEvent(event);
     }

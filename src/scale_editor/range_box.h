@@ -13,9 +13,8 @@ public:
     RangeBox();
 
 signals:
-    void stepped(int cells); // so many cells warmer, below 0 colder
-    void sent_to_coldest();
-    void sent_to_warmest();
+    void stepped(int cells);          // so many cells warmer, below 0 colder
+    void sent_to_limit(bool warmest); // of the scale
     void colour_asked();
 
 protected:

@@ -37,12 +37,8 @@ void Selection::step(Side side, int cells) {
     mark(*working_scale_, std::clamp(to, 0, cell_count(working_scale_->kind()) - 1), side);
 }
 
-void Selection::send_to_coldest(Side side) {
-    mark(*working_scale_, 0, side);
-}
-
-void Selection::send_to_warmest(Side side) {
-    mark(*working_scale_, cell_count(working_scale_->kind()) - 1, side);
+void Selection::send_to_limit(Side side, bool warmest) {
+    mark(*working_scale_, warmest ? cell_count(working_scale_->kind()) - 1 : 0, side);
 }
 
 void Selection::reset() {

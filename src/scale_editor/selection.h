@@ -37,8 +37,7 @@ public:
     // Moves that side by so many cells of the working scale and stops at its first and last. A side
     // that is blank goes to the cell of the other side, or else to the first cell.
     void step(Side side, int cells);
-    void send_to_coldest(Side side);
-    void send_to_warmest(Side side);
+    void send_to_limit(Side side, bool warmest);
 
     // Takes the whole HVC scale for the range and blanks the boxes.
     void reset();

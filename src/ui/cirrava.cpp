@@ -9,6 +9,7 @@
 #include "ui/help_windows.h"
 #include "ui/placer.h"
 
+#include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QShortcut>
 #include <QWindow>
@@ -17,6 +18,12 @@
 namespace cirrava {
 
 Cirrava::Cirrava(Dialogs dialogs) : cdlopen_(std::move(dialogs)) {
+    // A QMainWindow would need no factory, but a third of a MiB more. Installed before anything
+    // asks.
+    QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
+        auto* const window = dynamic_cast<Cirrava*>(object);
+        return window != nullptr ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
+    });
     setObjectName("Cirrava");
     setWindowIcon(program_icon());
     cdlopen_.InitDir = QCoreApplication::applicationDirPath();
@@ -60,11 +67,12 @@ void Cirrava::connect_scales() {
 void Cirrava::connect_box(RangeBox& box, Side side) {
     connect(&box, &RangeBox::stepped, this,
             [this, side](int cells) { selection_.step(side, cells); });
-    connect(&box, &RangeBox::sent_to_coldest, this,
-            [this, side] { selection_.send_to_coldest(side); });
-    connect(&box, &RangeBox::sent_to_warmest, this,
-            [this, side] { selection_.send_to_warmest(side); });
-    connect(&box, &RangeBox::colour_asked, this, [this, side] { copy_colour(side); });
+    connect(&box, &RangeBox::sent_to_limit, this,
+            [this, side](bool warmest) { selection_.send_to_limit(side, warmest); });
+    connect(&box, &RangeBox::colour_asked, this, [this, side] {
+        if (const auto cell = selection_.cell_of(side))
+            current_colour_.take(selection_.working_scale().cells.colour(*cell));
+    });
 }
 
 void Cirrava::connect_colour() {
@@ -127,11 +135,6 @@ void Cirrava::connect_keys() {
     press(Qt::CTRL | Qt::Key_S, {&c.thermal_command, &c.sea_command, &c.hvc_command});
     press(Qt::CTRL | Qt::Key_Return, {&c.Command2});
     press(Qt::CTRL | Qt::Key_Enter, {&c.Command2});
-}
-
-void Cirrava::copy_colour(Side side) {
-    if (const auto cell = selection_.cell_of(side))
-        current_colour_.take(selection_.working_scale().cells.colour(*cell));
 }
 
 void Cirrava::apply() {

@@ -8,13 +8,13 @@
 #include "widgets/common_dialog.h"
 #include "widgets/dialogs.h"
 
-#include <QMainWindow>
+#include <QWidget>
 
 namespace cirrava {
 
 // The main window. It owns the controls and the controllers and connects each event to what answers
 // it.
-class Cirrava : public QMainWindow {
+class Cirrava : public QWidget {
 public:
     Cirrava() : Cirrava(qt_dialogs(*this)) {}
     explicit Cirrava(Dialogs dialogs);
@@ -33,7 +33,6 @@ private:
     void connect_windows();
     void connect_history();
     void connect_keys();
-    void copy_colour(Side side);
     void apply();
 
     CirravaControls controls_{*this};

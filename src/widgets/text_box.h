@@ -14,6 +14,12 @@ public:
         give_sunken_border(*this);
         setBackgroundRole(QPalette::Base);
         setAutoFillBackground(true);
+        setFocusPolicy(Qt::StrongFocus);
+    }
+
+protected:
+    // To mark text, Qt makes a document of it, which would cost every start time and memory.
+    void enterEvent(QEnterEvent*) override {
         setTextInteractionFlags(Qt::TextSelectableByMouse);
         setFocusPolicy(Qt::StrongFocus);
     }
