@@ -79,7 +79,7 @@ QFont to_font(const FontLook& look) {
 }
 
 QImage program_picture() {
-    return read_png(":/picture@3x.png");
+    return read_png(":/picture@2x.png");
 }
 
 QIcon program_icon() {

@@ -31,7 +31,7 @@ struct Look {
 
 QFont to_font(const FontLook& look);
 
-// The satellite above the earth, 72 x 96 pixels at three times their density.
+// The satellite above the earth, 72 x 96 pixels at twice their density.
 QImage program_picture();
 
 QIcon program_icon();

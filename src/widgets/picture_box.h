@@ -6,7 +6,7 @@
 namespace cirrava {
 
 // A frame that shows an image at its top left: each pixel as a sharp square on every screen, but
-// smoothed where the image has more pixels than the screen has for it. It starts empty.
+// smoothed where the image is dense or made smaller. It starts empty.
 class PictureBox : public QFrame {
     Q_OBJECT
 public:
