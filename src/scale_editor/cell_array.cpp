@@ -128,10 +128,12 @@ void CellArray::paintEvent(QPaintEvent* event) {
     const double thickness = qFloor(2 * device_pixels) / device_pixels;
     const auto paint_lines = [&](const Range& cells, double dash) {
         for (const QRectF& row : rows_of(cells))
-            for (double left = row.left(); left < row.right(); left += 2 * dash)
+            for (int i = 0; 2 * i * dash < row.width(); ++i) {
+                const double left = row.left() + 2 * i * dash;
                 painter.fillRect(QRectF(left, row.bottom() + 2 * hairline,
                                         std::min(dash, row.right() - left), thickness),
                                  palette().color(QPalette::Highlight));
+            }
     };
     paint_lines(dotted_, thickness);
     for (const Range& range : marked_)

@@ -18,7 +18,7 @@ TEST(BinaryFile, FailuresToOpenHaveTheirNumbers) {
     chmod((folder + "/secret").c_str(), 0);
     const auto number_of = [](const std::string& path, FileAccess access) {
         try {
-            BinaryFile(path, access);
+            const BinaryFile file(path, access);
             return 0; // no failure
         } catch (const Failure& failure) {
             return static_cast<int>(failure.number);

@@ -176,7 +176,7 @@ TEST_F(Editing, ARandomWalkLeavesTheWindowInOrder) {
                 "press Sea_butt Return, press hvc_butt Space, click Command1, click Command2")
             .split(", ");
     for (int number = 0; number < 3'000; ++number) {
-        const QString step = steps[static_cast<int>(random() % steps.size())];
+        const QString& step = steps[static_cast<int>(random() % steps.size())];
         SCOPED_TRACE(step.toStdString());
         act(step);
         ASSERT_NO_FATAL_FAILURE(expect_order());

@@ -74,9 +74,8 @@ TEST_F(Layout, ControlsStandInLine) {
          {"Image1, Cirrava PAL",
           "-110C to 49.5C in 0.5C Intervals , Generate Thermal Palette, HVC Palette ",
           "Sea Surface, -10 to 39.8 in 0.2C Intervals, Generate Sea Surface Palette",
-          "HVC, -60 to 39 in 1C intervals, Click here for more info, Generate HVC Palette, Darker, "
-          "HScroll4, Lighter",
-          "Now Working, Label5, color(0)",
+          "HVC, -60 to 39 in 1C intervals, Click here for more info, Generate HVC Palette",
+          "Generate HVC Palette, Darker, HScroll4, Lighter", "Now Working, Label5, color(0)",
           "Start, Text1, Label8, End, Text2, Label9, Red, HScroll1, Label15",
           "Text3, Label10, Text4, Label11, Green, HScroll2, Label16",
           "Reset, Blue, HScroll3, Label17", "Advanced Color Picker, sample, Apply Color",
@@ -99,7 +98,7 @@ TEST_F(Layout, TemperaturesStandUnderTheirCells) {
             const QRect box = cells.cell_box(cell).translated(cells.pos());
             const double celsius = cell * step + first;
             EXPECT_EQ(label.text(), QString("%1C/%2F").arg(celsius).arg(celsius * 1.8 + 32));
-            EXPECT_NEAR(label.x(), box.x(), box.width() / 2 + 1) << label.text().toStdString();
+            EXPECT_NEAR(label.x(), box.x(), box.width() / 2.0 + 1) << label.text().toStdString();
             EXPECT_NEAR(label.y(), box.bottom(), 1) << label.text().toStdString();
         }
 }
@@ -142,7 +141,8 @@ TEST_F(Layout, EachPixelOfTheScreenBelongsToTheCellThatItShows) {
     paint("thermal_char", 1, 1, 9);
     const QRectF red = thermal().strip(1).translated(thermal().pos());
     const double pixel = 1 / window.devicePixelRatioF();
-    for (double x = red.left() - 3 + pixel / 2; x < red.right() + 3; x += pixel) {
+    for (int i = 0; i * pixel < red.width() + 6; ++i) {
+        const double x = red.left() - 3 + (i + 0.5) * pixel;
         const bool within = x > red.left() && x < red.right();
         EXPECT_EQ(colour_at({x, red.top() + 5.5}), within ? Qt::red : Qt::black) << x;
         click_at({x, red.top() + 5.5});
@@ -167,8 +167,9 @@ TEST_F(Layout, LinesUnderCellsShowWhatIsMarkedAndWhatTheBrightnessChanges) {
         for (int cell = 19; cell <= 22; ++cell) {
             const QRectF strip = cells.strip(cell).translated(cells.pos());
             QList<bool> blue;
-            for (double x = strip.left() + 0.5; x < strip.right(); ++x)
-                blue << (colour_at({x, strip.bottom() + 2.5}) == QColor(0, 95, 184));
+            for (int x = 0; x < strip.width(); ++x)
+                blue << (colour_at(strip.bottomLeft() + QPointF(x + 0.5, 2.5)) ==
+                         QColor(0, 95, 184));
             lines += !blue.contains(true) ? ' ' : blue.contains(false) ? ':' : '-';
         }
         return lines;
