@@ -141,8 +141,9 @@ TEST_F(Layout, EachPixelOfTheScreenBelongsToTheCellThatItShows) {
     paint("thermal_char", 1, 1, 9);
     const QRectF red = thermal().strip(1).translated(thermal().pos());
     const double pixel = 1 / window.devicePixelRatioF();
-    for (int i = 0; i * pixel < red.width() + 6; ++i) {
-        const double x = red.left() - 3 + (i + 0.5) * pixel;
+    // From 4 pixels before to 4 behind, which are whole device pixels at every quarter.
+    for (int i = 0; i * pixel < red.width() + 8; ++i) {
+        const double x = red.left() - 4 + (i + 0.5) * pixel;
         const bool within = x > red.left() && x < red.right();
         EXPECT_EQ(colour_at({x, red.top() + 5.5}), within ? Qt::red : Qt::black) << x;
         click_at({x, red.top() + 5.5});
