@@ -45,6 +45,6 @@ if __name__ == "__main__":
     cell = controls["Thermal scale"].get_child_at_index(5)
     for action in (0, 1):  # mark as start, mark as end
         cell.do_action(action)
-    controls["Preset 9: red 255, green 0, blue 0"].do_action(0)
+    controls["Preset 10: red 255, green 0, blue 0"].do_action(0)
     expect_new_description(controls["Thermal scale"], lambda: controls["Apply Color"].do_action(0))
     controls["Quit"].do_action(0)
