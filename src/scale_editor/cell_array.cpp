@@ -68,8 +68,10 @@ void CellArray::lay_out(int left, int top, int dpi) {
     const int count = cell_count(kind_);
     const int rows = (count - 1) / cells_per_row;
     const int columns = std::min(count, cells_per_row) - 1;
+    const QMargins hairline(1, 1, 1, 0); // below is room
     setGeometry(
-        to_pixels({left, top, columns * pitch + cell_size, rows * row_pitch + room_for_line}, dpi));
+        to_pixels({left, top, columns * pitch + cell_size, rows * row_pitch + room_for_line}, dpi) +
+        hairline);
 }
 
 QRect CellArray::cell_box(int cell) const {

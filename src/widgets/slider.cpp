@@ -54,8 +54,7 @@ void Slider::paintEvent(QPaintEvent*) {
     paint_key(painter, rect(), track, palette().color(QPalette::Mid));
     for (const bool left : {true, false}) {
         const auto part = left ? QStyle::SC_ScrollBarSubLine : QStyle::SC_ScrollBarAddLine;
-        const bool down =
-            option.state.testFlag(QStyle::State_Sunken) && option.activeSubControls == part;
+        const bool down = repeatAction() == (left ? SliderSingleStepSub : SliderSingleStepAdd);
         QStyleOption arrow = option;
         arrow.rect = box_of(part).toRect();
         paint_key(painter, arrow.rect, down ? face.darker(125) : face,

@@ -68,7 +68,12 @@ TEST_F(Controls, HeldKeysPressNothingTwice) {
 
 TEST_F(Controls, SlidersMoveByOne) {
     Slider& bar = find<Slider>("HScroll1");
-    QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() - 5, 8});  // an arrow
+    const QPoint arrow(bar.width() - 4, 8);
+    QTest::mousePress(&bar, Qt::LeftButton, {}, arrow);
+    const QImage pressed = bar.grab().toImage();
+    EXPECT_EQ(pressed.pixelColor(4, 4), QColor(250, 250, 250));
+    EXPECT_EQ(pressed.pixelColor(arrow.x(), 4), QColor(200, 200, 200));
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, arrow);
     QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() - 30, 8}); // the track
     for (int part = 0; part < 3; ++part) { // a fine wheel, a notch in all
         QWheelEvent turn({9, 9}, {9, 9}, {}, {0, 40}, {}, {}, Qt::NoScrollPhase, false);
