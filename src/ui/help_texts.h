@@ -63,8 +63,7 @@ Keys in the Start and End boxes
 Up, Down (or Right, Left): one step warmer or colder
 Page Up, Page Down: ten steps warmer or colder
 Ctrl+Home, Ctrl+End: to the ends of the scale
-Enter: copy the colour of that place
-)";
+Enter: copy the colour of that place)";
 
 inline constexpr char hvc_text[] =
     R"(HVC Palette
@@ -77,7 +76,6 @@ Set the colours in the scale, and the preview follows. Once you are satisfied, g
 
 The sliding bar increases or decreases the intensity of colours. Mark a range on the HVC scale first, or click "Reset" for the whole scale.
 
-The "How to Use" button gives more information.
-)";
+The "How to Use" button gives more information.)";
 
 } // namespace cirrava

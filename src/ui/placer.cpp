@@ -27,7 +27,11 @@ void fit(QWidget& control, const QString& caption, const QRect& box) {
         const bool one_line = room.height() < 2 * metrics.height();
         return room.width() <= box.width() && (one_line || room.height() <= box.height());
     };
+    if (fits())
+        return;
     QFont font = control.font();
+    // By the names asked for, Qt may find an italic font when it is to be narrower.
+    font.setFamily(control.fontInfo().family());
     for (int percent = 98; !fits() && percent >= narrowest; percent -= 2) {
         font.setStretch(percent);
         control.setFont(font);
