@@ -63,7 +63,7 @@ void measure_palette() {
             qFatal("the file cannot be written");
     };
     const auto write_all = [&] {
-        BinaryFile file("bench.bmp", FileAccess::read_write);
+        BinaryFile file("bench.bmp", FileAccess::write);
         file.write(image);
         file.close();
     };

@@ -72,7 +72,7 @@ void check_file_names() {
     };
     for (const auto& [what, path, reading, writing] : cases)
         expect(failure_of_opening(path, FileAccess::read) == reading &&
-                   failure_of_opening(path, FileAccess::read_write) == writing,
+                   failure_of_opening(path, FileAccess::write) == writing,
                what);
     expect(may_write_in(".") && !std::filesystem::exists("cirrava-pal.tmp"), "writable folder");
     expect(!may_write_in("missing"), "unwritable folder");

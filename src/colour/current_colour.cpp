@@ -6,8 +6,6 @@ namespace cirrava {
 
 CurrentColour::CurrentColour(Swatch& sample, const ColourChannels& channels)
     : sample_(sample), channels_(channels) {
-    for (const auto& [slider, readout] : channels)
-        QObject::connect(&slider, &Slider::valueChanged, &slider, [this] { follow_sliders(); });
     follow_sliders();
 }
 

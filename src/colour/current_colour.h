@@ -27,9 +27,11 @@ public:
     // Makes `color` the current colour, whatever the sliders stood at.
     void take(Colour color);
 
+    // Makes what the sliders stand at the current colour.
+    void follow_sliders();
+
 private:
     void Color_to_RGB(Colour color);
-    void follow_sliders();
 
     Swatch& sample_;
     const ColourChannels& channels_;

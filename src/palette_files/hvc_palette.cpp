@@ -22,7 +22,7 @@ HvcPalette::HvcPalette(CommonDialog& cdlopen, const Selection& selection, CellAr
                        Slider& HScroll4, PictureBox& Picture1)
     : cdlopen_(cdlopen), selection_(selection), Label3_(Label3), HScroll4_(HScroll4),
       Picture1_(Picture1) {
-    HScroll4_.setValue(slider_rest);
+    put_slider_back();
     HScroll4_.setTracking(false); // a drag counts once, when the mouse button is released
 }
 
@@ -46,17 +46,19 @@ void HvcPalette::refresh_preview_silently() {
     show_preview();
 }
 
+void HvcPalette::put_slider_back() {
+    HScroll4_.setValue(slider_rest);
+}
+
 void HvcPalette::brightness_changed() {
     const int steps = slider_rest - HScroll4_.value();
     if (steps == 0)
         return;
-    if (!HScroll4_.isEnabled()) // another program has moved it
-        return HScroll4_.setValue(slider_rest);
     const bool had_focus = HScroll4_.hasFocus(); // which a disabled control loses
     HScroll4_.setEnabled(false);
     create_hvc_file(steps);
     refresh_preview();
-    HScroll4_.setValue(slider_rest);
+    put_slider_back();
     HScroll4_.setEnabled(true);
     if (had_focus)
         HScroll4_.setFocus();
@@ -82,7 +84,7 @@ void HvcPalette::write_preview_file(int fromwhere) {
         std::copy(darker.begin() + hvc_row_127, darker.end(), image.begin() + hvc_row_127);
     }
 
-    BinaryFile file(preview_file, FileAccess::read_write);
+    BinaryFile file(preview_file, FileAccess::own);
     file.write(std::span(image).first(headers_size));
     Label3_.set_colours(after);
     file.write(std::span(image).subspan(headers_size));

@@ -28,6 +28,7 @@ public:
     // Follows a move of the brightness slider: shifts the selected cells by as much, refreshes the
     // preview and puts the slider back to rest.
     void brightness_changed();
+    void put_slider_back();
 
 private:
     void create_hvc_file(int fromwhere);

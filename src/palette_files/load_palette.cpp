@@ -4,6 +4,7 @@
 #include "platform/binary_file.h"
 #include "platform/failure.h"
 
+#include <QFile>
 #include <QImage>
 #include <QImageReader>
 
@@ -11,11 +12,15 @@ namespace cirrava {
 
 namespace {
 
-// The image of an HVC palette in the file `path`; null when there is none. Whatever a file claims,
-// no more memory is taken than such an image needs.
-QImage hvc_image_in(const QString& path) {
+// The image of an HVC palette in `file`; null when there is none. Whatever a file claims, no more
+// memory is taken than such an image needs.
+QImage hvc_image_in(BinaryFile& file) {
     const QSize size(cell_count(ScaleKind::hvc), hvc_rows);
-    QImageReader reader(path);
+    file.seek(0);
+    QFile device;
+    if (!device.open(file.stream(), QIODevice::ReadOnly))
+        return {};
+    QImageReader reader(&device, "BMP");
     if (reader.size() != size)
         return {};
     QImage image(size, reader.imageFormat());
@@ -35,12 +40,11 @@ void load_file(CommonDialog& cdlopen, const AllScales& scales, PictureBox& Pictu
     }
     file.seek(layout->pixels_offset);
     const Bytes pixels = file.read(layout->pixels_size);
-    file.close();
     const ScaleControls& scale = scales.at(static_cast<std::size_t>(layout->kind));
     scale.cells.set_colours(palette_colours(*layout, pixels));
     if (layout->kind != ScaleKind::hvc)
         return;
-    const QImage image = hvc_image_in(cdlopen.FileName);
+    const QImage image = hvc_image_in(file);
     if (image.isNull())
         throw Failure{FailureNumber::not_a_picture};
     Picture1.show_image(image);

@@ -4,16 +4,34 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <optional>
 
 namespace cirrava {
 
 namespace {
 
-bool ask_whether_to_write(CommonDialog& cdlopen) {
-    const bool exists = plain_file_exists(cdlopen.file_path());
-    const QString verb(exists ? QLatin1StringView("OVERWRITE ") : QLatin1StringView("Write "));
+bool ask_whether_to(const QString& verb, CommonDialog& cdlopen) {
     const QString out_path = QDir::toNativeSeparators(cdlopen.FileName);
-    return cdlopen.ask(verb + out_path + "?", "Ready to create");
+    return cdlopen.ask(verb + " " + out_path + "?", "Ready to create");
+}
+
+// Asks whether to write the file that was chosen, and opens it. While the question stands, another
+// program may make a file or a link there: that is asked about, too, before it is written over.
+std::optional<BinaryFile> open_to_write(CommonDialog& cdlopen) {
+    const auto path = cdlopen.file_path();
+    try {
+        if (!plain_file_exists(path)) {
+            if (!ask_whether_to("Write", cdlopen))
+                return std::nullopt;
+            return BinaryFile(path, FileAccess::create);
+        }
+    } catch (const Failure& failure) {
+        if (failure.number != FailureNumber::file_exists)
+            throw;
+    }
+    if (!ask_whether_to("OVERWRITE", cdlopen))
+        return std::nullopt;
+    return BinaryFile(path, FileAccess::write);
 }
 
 } // namespace
@@ -26,12 +44,13 @@ bool save_palette(CommonDialog& cdlopen, const Bytes& image, const SaveTexts& te
         cdlopen.DialogTitle = texts.title;
         cdlopen.CancelError = true;
         cdlopen.ShowSave();
-        if (!ask_whether_to_write(cdlopen))
+        auto file = open_to_write(cdlopen);
+        if (!file)
             return false;
-        BinaryFile file(cdlopen.file_path(), FileAccess::read_write);
-        file.write(image);
-        file.sync();
-        file.close();
+        file->reserve(image.size());
+        file->write(image);
+        file->sync();
+        file->close();
         return true;
     } catch (const Failure& failure) {
         cdlopen.tell(texts.message_start, failure, " A problem occured during file creation");

@@ -28,6 +28,8 @@ FailureNumber failure_of(std::error_code error) {
     case EINVAL:
     case EILSEQ:
         return bad_file_name;
+    case EEXIST:
+        return file_exists;
     case ENOSPC:
     case EFBIG:
 #ifdef EDQUOT
@@ -40,6 +42,7 @@ FailureNumber failure_of(std::error_code error) {
     case ENXIO:
     case ENODEV:
     case EBUSY:
+    case EAGAIN: // a server still has its hand on it
 #ifdef ENOMEDIUM
     case ENOMEDIUM:
 #endif
@@ -51,6 +54,11 @@ FailureNumber failure_of(std::error_code error) {
 
 std::error_code last_error() {
     return {errno, std::generic_category()};
+}
+
+void check(bool done) {
+    if (!done)
+        throw Failure{failure_of(last_error())};
 }
 
 } // namespace
@@ -79,29 +87,28 @@ BinaryFile::BinaryFile(const std::filesystem::path& path, FileAccess access) : p
 Bytes BinaryFile::read(std::size_t count) {
     Bytes bytes(count);
     bytes.resize(std::fread(bytes.data(), 1, count, stream_.get()));
-    if (std::ferror(stream_.get()) != 0)
-        throw Failure{failure_of(last_error())};
+    check(std::ferror(stream_.get()) == 0);
     return bytes;
 }
 
 void BinaryFile::seek(long offset) {
-    if (std::fseek(stream_.get(), offset, SEEK_SET) != 0)
-        throw Failure{failure_of(last_error())};
+    check(std::fseek(stream_.get(), offset, SEEK_SET) == 0);
 }
 
 void BinaryFile::write(std::span<const std::uint8_t> bytes) {
-    if (std::fwrite(bytes.data(), 1, bytes.size(), stream_.get()) != bytes.size())
-        throw Failure{failure_of(last_error())};
+    check(std::fwrite(bytes.data(), 1, bytes.size(), stream_.get()) == bytes.size());
+}
+
+void BinaryFile::reserve(std::size_t size) {
+    check(reserve_room(stream_.get(), size));
 }
 
 void BinaryFile::sync() {
-    if (!sync_stream(stream_.get(), path_))
-        throw Failure{failure_of(last_error())};
+    check(sync_stream(stream_.get(), path_));
 }
 
 void BinaryFile::close() {
-    if (std::fclose(stream_.release()) != 0)
-        throw Failure{failure_of(last_error())};
+    check(std::fclose(stream_.release()) == 0);
 }
 
 bool plain_file_exists(const std::filesystem::path& path) {

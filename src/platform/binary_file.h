@@ -13,8 +13,8 @@ namespace cirrava {
 using Bytes = std::vector<std::uint8_t>;
 
 // A regular file, open for as long as the object lives. Every operation that fails throws a
-// Failure: bad_file_name, file_not_found, device_error, disk_full, too_many_files, not_ready,
-// path_access (also for anything but a regular file) or path_not_found.
+// Failure: bad_file_name, file_not_found, device_error, file_exists, disk_full, too_many_files,
+// not_ready, path_access (also for anything but a regular file) or path_not_found.
 class BinaryFile {
 public:
     // Opens `path` at its first byte.
@@ -29,6 +29,10 @@ public:
     // Writes all of `bytes` at the current offset, without a buffer: what does not fit fails here.
     void write(std::span<const std::uint8_t> bytes);
 
+    // Fails now, while the old content is whole, where the disk has no room for the first `size`
+    // bytes; where the system cannot tell, it does nothing.
+    void reserve(std::size_t size);
+
     // Flushes all that was written, and the file's name, to the medium, so that it survives a power
     // failure.
     void sync();
@@ -36,6 +40,9 @@ public:
     // Ends the writing. On network drives, for instance, a failure may show only here. Without this
     // call the file is closed too, but nobody learns of such a failure.
     void close();
+
+    // The open file, for a library that reads it by itself.
+    std::FILE* stream() { return stream_.get(); }
 
 private:
     struct Closer {

@@ -9,17 +9,25 @@
 namespace cirrava {
 
 enum class FileAccess {
-    read,      // an existing file
-    read_write // created when missing, never shortened
+    read,   // an existing file
+    create, // where there is nothing of that name, not even a link; EEXIST otherwise
+    write,  // created when missing, never shortened; may be read, too
+    own     // as write, but neither through a link nor into a file with a second name
 };
 
-// Makes a write past the process's file-size limit fail like any other write; by default the system
-// would end the program, and the palette with it. To be called when the program starts.
-void let_writes_past_size_limit_fail();
+// Makes writes past the process's file-size limit, or into a pipe that nobody reads, fail like any
+// other; by default the system would end the program, and the palette with it. Opens those of the
+// standard streams that are closed: else the next file that is opened would take the place of one,
+// and what is written to that. To be called before all else.
+void let_writes_fail();
 
 // Opens `path` at its first byte without waiting for anything, not even for the other end of a
 // pipe. Returns null and sets errno on failure.
 std::FILE* open_stream(const std::filesystem::path& path, FileAccess access);
+
+// Keeps room on the disk for the first `size` bytes of `stream`, where the system can. Returns
+// false and sets errno where it is known that there is none.
+bool reserve_room(std::FILE* stream, std::size_t size);
 
 // Flushes to the medium what was written to `stream`, which is unbuffered and the open file `path`,
 // together with the file's entry in its folder. Returns false and sets errno on failure.

@@ -3,41 +3,74 @@
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace cirrava {
 
-void let_writes_past_size_limit_fail() {
-    std::signal(SIGXFSZ, [](int) {}); // programs that this one starts would inherit an ignored one
+namespace {
+
+int flags_of(FileAccess access) {
+    if (access == FileAccess::read)
+        return O_RDONLY;
+    return O_RDWR | O_CREAT | (access == FileAccess::create ? O_EXCL : 0) |
+           (access == FileAccess::own ? O_NOFOLLOW : 0);
+}
+
+bool has_one_name(int descriptor) {
+    struct stat status {};
+    return ::fstat(descriptor, &status) == 0 && status.st_nlink == 1;
+}
+
+// Some file systems have nothing to flush, and say so in several ways.
+bool flush(int descriptor) {
+    return ::fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP || errno == ENOSYS ||
+           errno == EPERM;
+}
+
+} // namespace
+
+void let_writes_fail() {
+    for (const int signal : {SIGXFSZ, SIGPIPE})
+        std::signal(signal,
+                    [](int) {}); // programs that this one starts would inherit an ignored one
+    int descriptor = 0;
+    while (descriptor >= 0 && descriptor <= STDERR_FILENO)
+        descriptor = ::open("/dev/null", O_RDWR);
+    ::close(descriptor);
 }
 
 std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
-    const bool writing = access == FileAccess::read_write;
-    const int flags = (writing ? O_RDWR | O_CREAT : O_RDONLY) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    const int flags = flags_of(access) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
     const int descriptor = ::open(path.c_str(), flags, 0666);
     if (descriptor < 0)
         return nullptr;
-    std::FILE* const stream = ::fdopen(descriptor, writing ? "r+b" : "rb");
-    if (stream == nullptr) {
-        const int error = errno;
+    if (access == FileAccess::own && !has_one_name(descriptor)) {
         ::close(descriptor);
-        errno = error;
+        errno = EACCES;
+        return nullptr;
     }
-    return stream;
+    return ::fdopen(descriptor, access == FileAccess::read ? "rb" : "r+b");
+}
+
+// Not every file system can; what it cannot write, it tells later. The file keeps its length.
+bool reserve_room(std::FILE* stream, std::size_t size) {
+    return ::fallocate(::fileno(stream), FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size)) == 0 ||
+           (errno != ENOSPC && errno != EDQUOT);
 }
 
 bool sync_stream(std::FILE* stream, const std::filesystem::path& path) {
-    if (::fsync(::fileno(stream)) != 0)
+    if (!flush(::fileno(stream)))
         return false;
     const auto folder_path = path.has_parent_path() ? path.parent_path() : ".";
     const int folder = ::open(folder_path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0)
         return true; // a user may be allowed to write in a folder but not to read it
-    const bool synced = ::fsync(folder) == 0 || errno == EINVAL; // or has nothing to flush
+    const bool flushed = flush(folder);
     const int error = errno;
     ::close(folder);
     errno = error;
-    return synced;
+    return flushed;
 }
 
 bool is_hidden(const std::filesystem::path& path) {

@@ -10,20 +10,37 @@ namespace cirrava {
 
 namespace {
 
+int flags_of(FileAccess access) {
+    const int flags = _O_BINARY | _O_NOINHERIT;
+    if (access == FileAccess::read)
+        return flags | _O_RDONLY;
+    return flags | _O_RDWR | _O_CREAT | (access == FileAccess::create ? _O_EXCL : 0);
+}
+
+// Whether the open file `path` is the only name of its content and no link to another.
+bool has_one_name(HANDLE file, const std::filesystem::path& path) {
+    BY_HANDLE_FILE_INFORMATION information;
+    return GetFileInformationByHandle(file, &information) != 0 && information.nNumberOfLinks == 1 &&
+           (GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
+}
+
 // Works as _wopen but opens only what a file list shows under that path later.
-int open_on_disk(const std::filesystem::path& path, int flags) {
+int open_on_disk(const std::filesystem::path& path, FileAccess access) {
     // A colon introduces the name of a second content of the file, which no file list shows.
     if (path.relative_path().native().find(L':') != std::wstring::npos) {
         errno = EINVAL;
         return -1;
     }
-    const int descriptor = _wopen(path.c_str(), flags, _S_IREAD | _S_IWRITE);
+    const int descriptor = _wopen(path.c_str(), flags_of(access), _S_IREAD | _S_IWRITE);
     // Windows says of a path that is too long only that it does not find it.
     if (descriptor < 0 && errno == ENOENT && path.native().size() >= MAX_PATH)
         errno = ENAMETOOLONG;
+    if (descriptor < 0)
+        return -1;
+    const auto file = reinterpret_cast<HANDLE>(_get_osfhandle(descriptor));
     // Some names, such as NUL, are devices in every folder.
-    if (descriptor >= 0 &&
-        GetFileType(reinterpret_cast<HANDLE>(_get_osfhandle(descriptor))) != FILE_TYPE_DISK) {
+    if (GetFileType(file) != FILE_TYPE_DISK ||
+        (access == FileAccess::own && !has_one_name(file, path))) {
         _close(descriptor);
         errno = EACCES;
         return -1;
@@ -33,21 +50,17 @@ int open_on_disk(const std::filesystem::path& path, int flags) {
 
 } // namespace
 
-void let_writes_past_size_limit_fail() {} // there is no such limit
+void let_writes_fail() {} // as they do here
 
 std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
-    const bool writing = access == FileAccess::read_write;
-    const int flags = (writing ? _O_RDWR | _O_CREAT : _O_RDONLY) | _O_BINARY | _O_NOINHERIT;
-    const int descriptor = open_on_disk(path, flags);
-    if (descriptor < 0)
-        return nullptr;
-    std::FILE* const stream = _fdopen(descriptor, writing ? "r+b" : "rb");
-    if (stream == nullptr) {
-        const int error = errno;
-        _close(descriptor);
-        errno = error;
-    }
-    return stream;
+    const int descriptor = open_on_disk(path, access);
+    return descriptor < 0 ? nullptr
+                          : _fdopen(descriptor, access == FileAccess::read ? "rb" : "r+b");
+}
+
+// Room can be kept here only by setting how much a file has, which would shorten a longer one.
+bool reserve_room(std::FILE*, std::size_t) {
+    return true;
 }
 
 // Windows flushes the file's entry with it.

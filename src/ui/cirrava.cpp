@@ -52,10 +52,10 @@ void Cirrava::connect_scales() {
     auto& c = controls_;
     for (const ScaleControls& scale : c.scales) {
         on_click(scale.choose, [this, &scale] { selection_.choose(scale); });
-        connect(&scale.cells, &CellArray::marked, this,
-                [this, &scale](int cell, Side side) { selection_.mark(scale, cell, side); });
-        connect(&scale.cells, &CellArray::colour_asked, this,
-                [this, &scale](int cell) { current_colour_.take(scale.cells.colour(cell)); });
+        on(scale.cells, &CellArray::marked,
+           [this, &scale](int cell, Side side) { selection_.mark(scale, cell, side); });
+        on(scale.cells, &CellArray::colour_asked,
+           [this, &scale](int cell) { current_colour_.take(scale.cells.colour(cell)); });
         for (const ScaleControls& other : c.scales) // over which the pointer may be by then
             connect(&scale.cells, &CellArray::released, &other.cells, &CellArray::mark_at);
     }
@@ -65,11 +65,10 @@ void Cirrava::connect_scales() {
 }
 
 void Cirrava::connect_box(RangeBox& box, Side side) {
-    connect(&box, &RangeBox::stepped, this,
-            [this, side](int cells) { selection_.step(side, cells); });
-    connect(&box, &RangeBox::sent_to_limit, this,
-            [this, side](bool warmest) { selection_.send_to_limit(side, warmest); });
-    connect(&box, &RangeBox::colour_asked, this, [this, side] {
+    on(box, &RangeBox::stepped, [this, side](int cells) { selection_.step(side, cells); });
+    on(box, &RangeBox::sent_to_limit,
+       [this, side](bool warmest) { selection_.send_to_limit(side, warmest); });
+    on(box, &RangeBox::colour_asked, [this, side] {
         if (const auto cell = selection_.cell_of(side))
             current_colour_.take(selection_.working_scale().cells.colour(*cell));
     });
@@ -77,10 +76,18 @@ void Cirrava::connect_box(RangeBox& box, Side side) {
 
 void Cirrava::connect_colour() {
     auto& c = controls_;
+    for (const auto& [slider, readout] : c.channels)
+        on(slider, &Slider::valueChanged, [this](int) { current_colour_.follow_sliders(); });
     for (Button& preset : c.color)
         on_click(preset, [this, &preset] { current_colour_.take(from_qt(preset.face())); });
     on_click(c.pickcolor, [this] { pick_colour(cdlopen_, current_colour_); });
     on_click(c.Command2, [this] { apply(); });
+}
+
+// Sliders alone hold what was done to them.
+void Cirrava::put_sliders_back() {
+    current_colour_.take(current_colour_.colour());
+    hvc_palette_.put_slider_back();
 }
 
 void Cirrava::connect_files() {
@@ -94,8 +101,7 @@ void Cirrava::connect_files() {
                      {"sea.bmp", "Create Sea Surface Palette", "Error # "});
     });
     on_click(c.hvc_command, [this] { hvc_palette_.generate(); });
-    connect(&c.HScroll4, &Slider::valueChanged, this,
-            [this] { hvc_palette_.brightness_changed(); });
+    on(c.HScroll4, &Slider::valueChanged, [this](int) { hvc_palette_.brightness_changed(); });
     on_click(c.Command5, [this, &c] { load_palette(cdlopen_, c.scales, c.Picture1); });
 }
 

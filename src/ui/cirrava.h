@@ -8,6 +8,7 @@
 #include "widgets/common_dialog.h"
 #include "widgets/dialogs.h"
 
+#include <QApplication>
 #include <QWidget>
 
 namespace cirrava {
@@ -23,9 +24,21 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    template <class Action> void on_click(Button& button, Action action) {
-        connect(&button, &Button::clicked, this, action);
+    // Connects what the user does with a control to what answers it. What a user cannot reach, for
+    // it is disabled or behind a modal window, other programs could still work.
+    template <class Control, class Signal, class Action>
+    void on(Control& control, Signal signal, Action action) {
+        connect(&control, signal, this, [this, &control, action](auto... values) {
+            if (control.isEnabled() && QApplication::activeModalWidget() == nullptr)
+                action(values...);
+            else
+                put_sliders_back();
+        });
     }
+    template <class Action> void on_click(Button& button, Action action) {
+        on(button, &Button::clicked, [action](bool) { action(); });
+    }
+    void put_sliders_back();
     void connect_scales();
     void connect_box(RangeBox& box, Side side);
     void connect_colour();

@@ -11,7 +11,7 @@
 namespace cirrava {
 
 void set_up_process() {
-    let_writes_past_size_limit_fail();
+    let_writes_fail();
     QLocale::setDefault(QLocale::English); // the language of all texts, for sizes and dates, too
     QApplication::setDesktopSettingsAware(false);
     // Qt's dialogs would keep histories between runs, and find nowhere for them. On Windows this

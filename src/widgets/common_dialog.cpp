@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <system_error>
 
 namespace cirrava {
 
@@ -33,7 +34,11 @@ void CommonDialog::ShowColor(const QColor& shown_first) {
 }
 
 std::filesystem::path CommonDialog::file_path() const {
-    return QFileInfo(FileName).filesystemFilePath();
+    try {
+        return QFileInfo(FileName).filesystemFilePath();
+    } catch (const std::system_error&) { // no Unicode
+        throw Failure{FailureNumber::bad_file_name};
+    }
 }
 
 void CommonDialog::tell(const QString& before, const Failure& failure, const QString& after) {

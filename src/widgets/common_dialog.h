@@ -32,7 +32,8 @@ public:
     void ShowSave();
     void ShowColor(const QColor& shown_first);
 
-    // FileName after a dialog, as files are opened by it.
+    // FileName after a dialog, as files are opened by it. Throws Failure{bad_file_name} for a text
+    // that no path can have.
     std::filesystem::path file_path() const;
 
     bool ask(const QString& question, const QString& title) {

@@ -1,24 +1,11 @@
 #include "widgets/focus_outline.h"
 
+#include "widgets/key.h"
+
 #include <QApplication>
-#include <QPainter>
 #include <QStyle>
 
 namespace cirrava {
-
-namespace {
-
-// Paints the inner edge of `box`, `width` wide.
-void paint_edge(QPainter& painter, const QRectF& box, double width, Qt::GlobalColor colour) {
-    const QSizeF across(box.width(), width);
-    const QSizeF down(width, box.height());
-    painter.fillRect({box.topLeft(), across}, colour);
-    painter.fillRect({box.bottomLeft() - QPointF(0, width), across}, colour);
-    painter.fillRect({box.topLeft(), down}, colour);
-    painter.fillRect({box.topRight() - QPointF(width, 0), down}, colour);
-}
-
-} // namespace
 
 FocusOutline::FocusOutline(QWidget& window) : QFocusFrame(&window) {
     hide();
@@ -32,11 +19,9 @@ FocusOutline::FocusOutline(QWidget& window) : QFocusFrame(&window) {
 void FocusOutline::paintEvent(QPaintEvent*) {
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin); // around the control
     const QRectF box = rect().adjusted(margin, margin, -margin, -margin);
-    const double device_pixels = devicePixelRatioF(); // to a pixel
-    const double line = qRound(device_pixels) / device_pixels;
     QPainter painter(this);
-    paint_edge(painter, box, line, Qt::black);
-    paint_edge(painter, box.adjusted(line, line, -line, -line), line, Qt::white);
+    paint_edge(painter, box, Qt::white, 2);
+    paint_edge(painter, box, Qt::black);
 }
 
 } // namespace cirrava

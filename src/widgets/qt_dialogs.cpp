@@ -7,12 +7,14 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMimeDatabase>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QSplitter>
@@ -56,12 +58,28 @@ void make_room_for_names(QFileDialog& dialog) {
             side_bar->setMinimumWidth(side_bar->sizeHintForColumn(0) + 2 * side_bar->frameWidth());
 }
 
+// What a file is, by its name alone: Qt's own looks into files, which may take for ever.
+class FileKinds : public QFileIconProvider {
+public:
+    QIcon icon(const QFileInfo& file) const override {
+        return QFileIconProvider::icon(file.isDir() ? Folder : File);
+    }
+    QString type(const QFileInfo& file) const override {
+        return QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).comment();
+    }
+};
+
 std::optional<QString> ask_for_file(QWidget& parent, QFileDialog::AcceptMode mode,
                                     const FileQuestion& question) {
+    FileKinds kinds;
     QFileDialog dialog(&parent, question.title, question.folder,
                        question.filter + ";;All files (*)");
     // The desktop's own dialogs cannot be kept from asking about overwriting everywhere.
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
+    dialog.setOption(QFileDialog::ReadOnly, mode == QFileDialog::AcceptOpen);
+    for (auto* const view : dialog.findChildren<QAbstractItemView*>())
+        view->setDragDropMode(QAbstractItemView::NoDragDrop); // which would move files
+    dialog.setIconProvider(&kinds);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setAcceptMode(mode);
     if (mode == QFileDialog::AcceptSave)

@@ -63,8 +63,8 @@ void Slider::paintEvent(QPaintEvent*) {
                                     : QStyle::PE_IndicatorArrowRight,
                                &arrow, &painter, this);
     }
-    paint_key(painter, thumb, face, palette().color(QPalette::ButtonText)); // a double frame
-    paint_key(painter, thumb, track, Qt::transparent, isSliderDown() ? 4 : 3);
+    paint_edge(painter, thumb, face, isSliderDown() ? 4 : 3);
+    paint_edge(painter, thumb, palette().color(QPalette::ButtonText));
 }
 
 void Slider::wheelEvent(QWheelEvent* event) {

@@ -4,6 +4,17 @@
 
 #include <QFile>
 #include <sys/resource.h>
+#include <unistd.h>
+
+namespace {
+bool disk_is_full = false;
+}
+
+// In place of the system's, which tests cannot do without a small disk.
+extern "C" int fallocate(int, int, off_t, off_t) {
+    errno = disk_is_full ? ENOSPC : EOPNOTSUPP;
+    return -1;
+}
 
 namespace cirrava {
 
@@ -121,6 +132,33 @@ TEST_F(Files, OnAFullDiskAreToldAndThePreviewShowsAllTheSame) {
         brightness().setValue(4);
         EXPECT_EQ(hvc().colour(5), RGB(250, 250, 0));
     });
+}
+
+TEST_F(Files, OfOthersAreLeftWholeUnlessTheUserSaysOverwrite) {
+    const auto size_of = [](const char* name) { return QFileInfo(name).size(); };
+    user.meanwhile = [] { QFile::copy(CORPUS "/thermal.bmp", "a.bmp"); };
+    EXPECT_EQ(seen_after(Qt::Key_S, folder.filePath("a.bmp")).mid(1),
+              (QStringList{"Ready to create: Write HERE/a.bmp?",
+                           "Ready to create: OVERWRITE HERE/a.bmp?"}));
+    act("click hvc_butt");
+    disk_is_full = true;
+    EXPECT_EQ(seen_after(Qt::Key_S, "a.bmp").last(), "Error # 61" + not_created);
+    disk_is_full = false;
+    EXPECT_EQ(size_of("a.bmp"), 1014);
+    for (const auto link_to : {::link, ::symlink}) {
+        QFile::remove("~~temphvc.bmp");
+        link_to("a.bmp", "~~temphvc.bmp");
+        act("click Command2, left Label3 1, right Label3 1, click Command2");
+        EXPECT_EQ(user.saw.last(), "Error # 75" + not_created);
+        EXPECT_EQ(size_of("a.bmp"), 1014);
+    }
+}
+
+TEST_F(Files, AreReadFromOneAndTheSame) {
+    QFile::copy(CORPUS "/hvc-just-long-enough.bmp", "a.bmp");
+    QObject::connect(&hvc(), &CellArray::changed, [] { QFile::remove("a.bmp"); });
+    seen_after(Qt::Key_O, "a.bmp");
+    EXPECT_FALSE(preview().isNull());
 }
 
 TEST_F(Files, AreChosenWhereTheUserMayWrite) {

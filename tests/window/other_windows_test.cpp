@@ -1,8 +1,11 @@
 #include "window_fixture.h"
 
+#include <QAbstractItemView>
 #include <QClipboard>
 #include <QDialog>
 #include <QFile>
+#include <QFileDialog>
+#include <QFileIconProvider>
 #include <QPlainTextEdit>
 #include <QScreen>
 
@@ -13,7 +16,7 @@ namespace {
 class OtherWindows : public WindowTest {
 protected:
     // Does `action`, which closes it, in the window of that title that opens by `open`. The main
-    // window takes no click meanwhile.
+    // window takes nothing meanwhile, neither from the user nor from other programs.
     void in_window(const QString& title, const char* open,
                    const std::function<void(QDialog&)>& action) {
         in_next<QDialog>([&](QDialog& dialog) {
@@ -22,11 +25,16 @@ protected:
             for (auto* const label : dialog.findChildren<QLabel*>())
                 EXPECT_GE(label->height() + 2, label->heightForWidth(label->width()));
             act("left thermal_char 10");
+            find<Button>("color(9)").click();
+            find<Slider>("HScroll2").setValue(7);
+            emit sea().marked(5, Side::start);
             action(dialog);
             EXPECT_FALSE(dialog.isVisible());
         });
         act(open);
-        EXPECT_EQ(text("Text1"), "");
+        EXPECT_EQ(text("Text1") + text("Label5"), "Thermal");
+        EXPECT_EQ(swatch(), Qt::black);
+        EXPECT_EQ(find<Slider>("HScroll2").value(), 0);
     }
 };
 
@@ -87,7 +95,23 @@ TEST_F(OtherWindows, SystemInfoStartsTheDesktopsProgramOrSaysThatThereIsNone) {
     qputenv("PATH", search_path);
 }
 
-// Qt's real dialogs; those for files are in the tour.
+// Qt's real dialogs; those for files are used in the tour.
+TEST(RealDialogs, FilesAreNotMovedInThem) {
+    QWidget parent;
+    const Dialogs dialogs = qt_dialogs(parent);
+    for (const auto& choose : {dialogs.open, dialogs.save}) {
+        in_next<QFileDialog>([](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.testOption(QFileDialog::ReadOnly),
+                      dialog.acceptMode() == QFileDialog::AcceptOpen);
+            for (const auto* view : dialog.findChildren<QAbstractItemView*>())
+                EXPECT_FALSE(view->dragEnabled() || view->viewport()->acceptDrops());
+            EXPECT_EQ(dialog.iconProvider()->type(QFileInfo("/bin/sh")),
+                      dialog.iconProvider()->type(QFileInfo("none")));
+        });
+        EXPECT_FALSE(choose({"Title", "*.bmp", "/tmp", ""}));
+    }
+}
+
 TEST(RealDialogs, MessagesShowPlainTextAndYesIsTheDefault) {
     QWidget parent;
     const Dialogs dialogs = qt_dialogs(parent);

@@ -20,7 +20,8 @@ struct User {
     std::optional<QString> path; // nothing: the user cancels
     std::optional<QColor> colour;
     bool yes = true;
-    QStringList saw; // the dialogs and messages, in order
+    std::function<void()> meanwhile = [] {}; // happens while a question stands
+    QStringList saw;                         // the dialogs and messages, in order
 
     Dialogs dialogs() {
         const auto choose_file = [this](const FileQuestion& asked) {
@@ -33,6 +34,7 @@ struct User {
         };
         const auto ask = [this](const QString& text, const QString& title) {
             saw << title + ": " + text;
+            meanwhile();
             return yes;
         };
         const auto tell = [this](const QString& text) { saw << text; };
