@@ -65,7 +65,9 @@ public:
         return QFileIconProvider::icon(file.isDir() ? Folder : File);
     }
     QString type(const QFileInfo& file) const override {
-        return QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).comment();
+        return file.isDir()
+                   ? "Folder"
+                   : QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).comment();
     }
 };
 
