@@ -35,6 +35,7 @@ started+=("$program_id")
 in_window "Cirrava PAL"
 window=$(xdotool getactivewindow)
 see "${ground[@]}" f0f0f0
+for line in 7085 8645; do see 9000 "$line" 000000; done # the lines across the window
 picture 1-start
 
 # By keys alone: cells 220 to 259, the red slider, Apply, the generate button.
@@ -42,6 +43,8 @@ xdotool key ctrl+End key --repeat 10 Page_Down key Up Tab key --repeat 5 Page_Up
 see 2580 3290 005fb8 # the line under cell 220
 xdotool key Tab Tab Tab End
 see "${swatch[@]}" ff0000
+see 4830 8050 ff0000 # the thumb of the green slider, and its end
+see 9600 8050 ffff00
 xdotool key --repeat 4 Tab key space
 thermal_cell 220 see ff0000
 picture 2-thermal

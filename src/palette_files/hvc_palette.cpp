@@ -14,15 +14,13 @@ namespace {
 
 constexpr char preview_file[] = "~~temphvc.bmp"; // in the current directory
 
-constexpr int slider_rest = 5;
-
 } // namespace
 
 HvcPalette::HvcPalette(CommonDialog& cdlopen, const Selection& selection, CellArray& Label3,
                        Slider& HScroll4, PictureBox& Picture1)
     : cdlopen_(cdlopen), selection_(selection), Label3_(Label3), HScroll4_(HScroll4),
       Picture1_(Picture1) {
-    put_slider_back();
+    HScroll4_.setValue(slider_rest);
     HScroll4_.setTracking(false); // a drag counts once, when the mouse button is released
 }
 
@@ -46,10 +44,6 @@ void HvcPalette::refresh_preview_silently() {
     show_preview();
 }
 
-void HvcPalette::put_slider_back() {
-    HScroll4_.setValue(slider_rest);
-}
-
 void HvcPalette::brightness_changed() {
     const int steps = slider_rest - HScroll4_.value();
     if (steps == 0)
@@ -58,7 +52,7 @@ void HvcPalette::brightness_changed() {
     HScroll4_.setEnabled(false);
     create_hvc_file(steps);
     refresh_preview();
-    put_slider_back();
+    HScroll4_.setValue(slider_rest);
     HScroll4_.setEnabled(true);
     if (had_focus)
         HScroll4_.setFocus();

@@ -12,6 +12,8 @@ namespace cirrava {
 // the selected cells.
 class HvcPalette {
 public:
+    static constexpr int slider_rest = 5; // of the brightness slider, from 0 to 10
+
     HvcPalette(CommonDialog& cdlopen, const Selection& selection, CellArray& Label3,
                Slider& HScroll4, PictureBox& Picture1);
 
@@ -28,7 +30,6 @@ public:
     // Follows a move of the brightness slider: shifts the selected cells by as much, refreshes the
     // preview and puts the slider back to rest.
     void brightness_changed();
-    void put_slider_back();
 
 private:
     void create_hvc_file(int fromwhere);

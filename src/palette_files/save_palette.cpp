@@ -47,7 +47,6 @@ bool save_palette(CommonDialog& cdlopen, const Bytes& image, const SaveTexts& te
         auto file = open_to_write(cdlopen);
         if (!file)
             return false;
-        file->reserve(image.size());
         file->write(image);
         file->sync();
         file->close();

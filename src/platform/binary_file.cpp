@@ -96,11 +96,8 @@ void BinaryFile::seek(long offset) {
 }
 
 void BinaryFile::write(std::span<const std::uint8_t> bytes) {
+    check(reserve_room(stream_.get(), bytes.size()));
     check(std::fwrite(bytes.data(), 1, bytes.size(), stream_.get()) == bytes.size());
-}
-
-void BinaryFile::reserve(std::size_t size) {
-    check(reserve_room(stream_.get(), size));
 }
 
 void BinaryFile::sync() {

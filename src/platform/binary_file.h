@@ -27,11 +27,8 @@ public:
     void seek(long offset);
 
     // Writes all of `bytes` at the current offset, without a buffer: what does not fit fails here.
+    // Where the system can tell that the disk has no room, nothing is written at all.
     void write(std::span<const std::uint8_t> bytes);
-
-    // Fails now, while the old content is whole, where the disk has no room for the first `size`
-    // bytes; where the system cannot tell, it does nothing.
-    void reserve(std::size_t size);
 
     // Flushes all that was written, and the file's name, to the medium, so that it survives a power
     // failure.

@@ -25,8 +25,8 @@ void let_writes_fail();
 // pipe. Returns null and sets errno on failure.
 std::FILE* open_stream(const std::filesystem::path& path, FileAccess access);
 
-// Keeps room on the disk for the first `size` bytes of `stream`, where the system can. Returns
-// false and sets errno where it is known that there is none.
+// Keeps room on the disk for the next `size` bytes of `stream`, which is unbuffered, where the
+// system can. Returns false and sets errno where it is known that there is none.
 bool reserve_room(std::FILE* stream, std::size_t size);
 
 // Flushes to the medium what was written to `stream`, which is unbuffered and the open file `path`,

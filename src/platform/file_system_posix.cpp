@@ -55,7 +55,9 @@ std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
 
 // Not every file system can; what it cannot write, it tells later. The file keeps its length.
 bool reserve_room(std::FILE* stream, std::size_t size) {
-    return ::fallocate(::fileno(stream), FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size)) == 0 ||
+    const int file = ::fileno(stream);
+    return ::fallocate(file, FALLOC_FL_KEEP_SIZE, ::lseek(file, 0, SEEK_CUR),
+                       static_cast<off_t>(size)) == 0 ||
            (errno != ENOSPC && errno != EDQUOT);
 }
 

@@ -24,38 +24,32 @@ bool has_one_name(HANDLE file, const std::filesystem::path& path) {
            (GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
 }
 
-// Works as _wopen but opens only what a file list shows under that path later.
-int open_on_disk(const std::filesystem::path& path, FileAccess access) {
+} // namespace
+
+void let_writes_fail() {} // as they do here
+
+// Opens only what a file list shows under that path later.
+std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
     // A colon introduces the name of a second content of the file, which no file list shows.
     if (path.relative_path().native().find(L':') != std::wstring::npos) {
         errno = EINVAL;
-        return -1;
+        return nullptr;
     }
     const int descriptor = _wopen(path.c_str(), flags_of(access), _S_IREAD | _S_IWRITE);
     // Windows says of a path that is too long only that it does not find it.
     if (descriptor < 0 && errno == ENOENT && path.native().size() >= MAX_PATH)
         errno = ENAMETOOLONG;
     if (descriptor < 0)
-        return -1;
+        return nullptr;
     const auto file = reinterpret_cast<HANDLE>(_get_osfhandle(descriptor));
     // Some names, such as NUL, are devices in every folder.
     if (GetFileType(file) != FILE_TYPE_DISK ||
         (access == FileAccess::own && !has_one_name(file, path))) {
         _close(descriptor);
         errno = EACCES;
-        return -1;
+        return nullptr;
     }
-    return descriptor;
-}
-
-} // namespace
-
-void let_writes_fail() {} // as they do here
-
-std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
-    const int descriptor = open_on_disk(path, access);
-    return descriptor < 0 ? nullptr
-                          : _fdopen(descriptor, access == FileAccess::read ? "rb" : "r+b");
+    return _fdopen(descriptor, access == FileAccess::read ? "rb" : "r+b");
 }
 
 // Room can be kept here only by setting how much a file has, which would shorten a longer one.

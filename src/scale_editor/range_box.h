@@ -6,11 +6,14 @@ namespace cirrava {
 
 // A box that shows the temperature of one side of the range. It takes keys as a spin box does: the
 // arrows, page up, page down, and Ctrl with Home or End. Enter asks for the colour of its cell. For
-// screen readers it is a spin box whose name is its text, so that they speak it when it changes.
+// screen readers it is a spin box, of which they speak the value on each step.
 class RangeBox : public TextBox {
     Q_OBJECT
 public:
     RangeBox();
+
+    // Shows `text`, a number or a blank.
+    void show_text(const QString& text);
 
 signals:
     void stepped(int cells);          // so many cells warmer, below 0 colder

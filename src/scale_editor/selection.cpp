@@ -102,14 +102,17 @@ void Selection::show_range() {
         const auto text = [&bound](const std::string& temperature) {
             return bound.shown ? to_qt(temperature) : QString(" ");
         };
-        bound.celsius.setText(text(celsius_text(kind, bound.cell)));
+        bound.celsius.show_text(text(celsius_text(kind, bound.cell)));
         bound.fahrenheit.setText(text(fahrenheit_text(kind, bound.cell)));
+        // Of a box without a value, screen readers say the name alone.
+        bound.fahrenheit.setAccessibleName(bound.fahrenheit.accessibleDescription() + " " +
+                                           bound.fahrenheit.text());
     }
-    for (const ScaleControls& scale : scales_)
-        if (&scale == working_scale_)
-            scale.cells.underline(marked_cells(), brightness_range());
-        else
-            scale.cells.underline({}, {});
+    for (const ScaleControls& scale : scales_) {
+        const bool working = &scale == working_scale_;
+        scale.cells.underline(working ? marked_cells() : QList<Range>(),
+                              working ? brightness_range() : Range());
+    }
 }
 
 } // namespace cirrava

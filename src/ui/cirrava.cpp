@@ -12,7 +12,6 @@
 #include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QShortcut>
-#include <QWindow>
 #include <utility>
 
 namespace cirrava {
@@ -34,18 +33,8 @@ Cirrava::Cirrava(Dialogs dialogs) : cdlopen_(std::move(dialogs)) {
     connect_colour();
     connect_files();
     connect_windows();
-    connect_history();
     connect_keys();
     fit_captions(*this);
-}
-
-// On a screen of another density the window would keep its number of device pixels. To set the size
-// that it has already would reach no window manager.
-void Cirrava::showEvent(QShowEvent*) {
-    connect(windowHandle(), &QWindow::screenChanged, this, [this, right_size = size()] {
-        setFixedSize(right_size + QSize(1, 1));
-        setFixedSize(right_size);
-    });
 }
 
 void Cirrava::connect_scales() {
@@ -84,12 +73,6 @@ void Cirrava::connect_colour() {
     on_click(c.Command2, [this] { apply(); });
 }
 
-// Sliders alone hold what was done to them.
-void Cirrava::put_sliders_back() {
-    current_colour_.take(current_colour_.colour());
-    hvc_palette_.put_slider_back();
-}
-
 void Cirrava::connect_files() {
     auto& c = controls_;
     on_click(c.thermal_command, [this, &c] {
@@ -113,15 +96,6 @@ void Cirrava::connect_windows() {
     on_click(c.Command6, [] { QCoreApplication::exit(0); });
 }
 
-void Cirrava::connect_history() {
-    connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this,
-            [this] { history_.undo(); });
-    // Desktops differ in the key for redo.
-    for (const auto keys : {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})
-        connect(new QShortcut(keys, this), &QShortcut::activated, this,
-                [this] { history_.redo(); });
-}
-
 void Cirrava::connect_keys() {
     auto& c = controls_;
     const auto press = [this](QKeyCombination keys, const QList<Button*>& buttons) {
@@ -141,6 +115,12 @@ void Cirrava::connect_keys() {
     press(Qt::CTRL | Qt::Key_S, {&c.thermal_command, &c.sea_command, &c.hvc_command});
     press(Qt::CTRL | Qt::Key_Return, {&c.Command2});
     press(Qt::CTRL | Qt::Key_Enter, {&c.Command2});
+    connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this,
+            [this] { history_.undo(); });
+    // Desktops differ in the key for redo.
+    for (const auto keys : {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})
+        connect(new QShortcut(keys, this), &QShortcut::activated, this,
+                [this] { history_.redo(); });
 }
 
 void Cirrava::apply() {

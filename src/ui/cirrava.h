@@ -20,9 +20,6 @@ public:
     Cirrava() : Cirrava(qt_dialogs(*this)) {}
     explicit Cirrava(Dialogs dialogs);
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
     // Connects what the user does with a control to what answers it. What a user cannot reach, for
     // it is disabled or behind a modal window, other programs could still work.
@@ -30,21 +27,20 @@ private:
     void on(Control& control, Signal signal, Action action) {
         connect(&control, signal, this, [this, &control, action](auto... values) {
             if (control.isEnabled() && QApplication::activeModalWidget() == nullptr)
-                action(values...);
-            else
-                put_sliders_back();
+                return action(values...);
+            // Sliders alone hold what was done to them.
+            current_colour_.take(current_colour_.colour());
+            controls_.HScroll4.setValue(HvcPalette::slider_rest);
         });
     }
     template <class Action> void on_click(Button& button, Action action) {
         on(button, &Button::clicked, [action](bool) { action(); });
     }
-    void put_sliders_back();
     void connect_scales();
     void connect_box(RangeBox& box, Side side);
     void connect_colour();
     void connect_files();
     void connect_windows();
-    void connect_history();
     void connect_keys();
     void apply();
 

@@ -171,10 +171,10 @@ void CirravaControls::ticks(std::span<QLabel> labels, const QString& name, int i
     }
 }
 
-// The name of a box is its text, and what it is for its description.
+// Screen readers say what it is for, and its text.
 void CirravaControls::box(TextBox& box, const QString& name, const QString& spoken,
                           const TwipRect& rect) {
-    control(box, name, {}, rect);
+    control(box, name, spoken, rect);
     box.setAccessibleDescription(spoken);
 }
 

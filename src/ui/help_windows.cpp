@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
+#include <QWindow>
 
 namespace cirrava {
 
@@ -64,7 +65,10 @@ protected:
 
     // QDialog would put itself over its parent, and its title bar above the screen where the parent
     // stands high. The windowing system chooses a better place.
-    void showEvent(QShowEvent* event) override { QWidget::showEvent(event); }
+    void showEvent(QShowEvent* event) override {
+        windowHandle()->setScreen(parentWidget()->screen());
+        QWidget::showEvent(event);
+    }
 };
 
 } // namespace

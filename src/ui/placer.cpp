@@ -3,6 +3,7 @@
 #include "widgets/focus_outline.h"
 
 #include <QScreen>
+#include <QWindow>
 #include <QtMath>
 
 namespace cirrava {
@@ -51,7 +52,15 @@ Placer::Placer(QWidget& window, const QString& title, QSize client_area) : windo
                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
                           Qt::MSWindowsFixedSizeDialogHint);
     window.setWindowTitle(title);
-    window.setFixedSize(to_pixels(rect, dpi_).size());
+    const QSize size = to_pixels(rect, dpi_).size();
+    window.setFixedSize(size);
+    // On a screen of another density it would keep its number of device pixels. To set the size
+    // that it has already would reach no window manager.
+    window.winId(); // which makes the handle
+    QObject::connect(window.windowHandle(), &QWindow::screenChanged, &window, [&window, size] {
+        window.setFixedSize(size + QSize(1, 1));
+        window.setFixedSize(size);
+    });
     if (shrink_ < 1)
         window.setFont(scaled_font({}));
     new FocusOutline(window); // the window owns it

@@ -10,13 +10,13 @@
 #include <QFileIconProvider>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMimeDatabase>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QTreeView>
@@ -76,7 +76,8 @@ std::optional<QString> ask_for_file(QWidget& parent, QFileDialog::AcceptMode mod
     FileKinds kinds;
     QFileDialog dialog(&parent, question.title, question.folder,
                        question.filter + ";;All files (*)");
-    // The desktop's own dialogs cannot be kept from asking about overwriting everywhere.
+    // The desktop's own dialogs cannot be kept from asking about overwriting everywhere, nor that
+    // of Windows from adding a suffix.
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
     dialog.setOption(QFileDialog::ReadOnly, mode == QFileDialog::AcceptOpen);
     for (auto* const view : dialog.findChildren<QAbstractItemView*>())
@@ -126,22 +127,17 @@ public:
         for (const QString& caption : captions) {
             auto* const button = new Button; // the row owns it
             button->setText(caption);
+            // Pressed by its first letter. A shortcut finds Latin letters under other alphabets.
+            auto* const letter = new QShortcut(caption.left(1), this);
+            connect(letter, &QShortcut::activated, button, &Button::click);
             row->addButton(button, caption == "No" ? QDialogButtonBox::NoRole
                                                    : QDialogButtonBox::AcceptRole);
         }
         connect(row, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(row, &QDialogButtonBox::rejected, this, &QDialog::reject);
         column->addWidget(row);
-    }
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        if (event->matches(QKeySequence::Copy))
-            return QGuiApplication::clipboard()->setText(text_);
-        for (auto* const button : findChildren<Button*>()) // pressed by its first letter
-            if (event->key() == button->text().front().unicode())
-                return button->click();
-        QDialog::keyPressEvent(event);
+        connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this,
+                [this] { QGuiApplication::clipboard()->setText(text_); });
     }
 
 private:

@@ -23,6 +23,7 @@ TEST_F(Controls, CellsTellTheirTemperaturesAndAreWorkedByScreenReaders) {
     EXPECT_FALSE(cells->child(41)->state().selected);
     EXPECT_EQ(find("sample").accessibleDescription(), "red 255, green 224, blue 192");
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Window);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&find("Text1"))->role(), QAccessible::SpinBox);
     QHelpEvent rest(QEvent::ToolTip, thermal().cell_box(35).center(), cell->rect().center());
     QCoreApplication::sendEvent(&thermal(), &rest);
     EXPECT_EQ(QToolTip::text(), "(37) -92.0Celcius / -133.6Farenheit"); // which lies over 36
@@ -70,9 +71,7 @@ TEST_F(Controls, SlidersMoveByOne) {
     Slider& bar = find<Slider>("HScroll1");
     const QPoint arrow(bar.width() - 4, 8);
     QTest::mousePress(&bar, Qt::LeftButton, {}, arrow);
-    const QImage pressed = bar.grab().toImage();
-    EXPECT_EQ(pressed.pixelColor(4, 4), QColor(250, 250, 250));
-    EXPECT_EQ(pressed.pixelColor(arrow.x(), 4), QColor(200, 200, 200));
+    EXPECT_EQ(bar.grab().toImage().pixelColor(arrow.x(), 4), QColor(200, 200, 200)); // is darker
     QTest::mouseRelease(&bar, Qt::LeftButton, {}, arrow);
     QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() - 30, 8}); // the track
     for (int part = 0; part < 3; ++part) { // a fine wheel, a notch in all
@@ -84,23 +83,17 @@ TEST_F(Controls, SlidersMoveByOne) {
 }
 
 TEST_F(Controls, TheColourDialogOpensAtTheColour) {
-    act("click pickcolor"); // and the user cancels
     user.colour = Qt::red;
-    act("click pickcolor, click pickcolor");
+    act("click pickcolor");
+    user.colour.reset(); // the user cancels
+    act("click pickcolor");
     EXPECT_EQ(swatch(), Qt::red);
-    EXPECT_EQ(user.saw, (QStringList{"#ffffff", "#ffffff", "#ff0000"})); // in place of black
+    EXPECT_EQ(user.saw, (QStringList{"#ffffff", "#ff0000"})); // white in place of black
 }
 
 TEST_F(Controls, DisabledButtonsLookDisabledAndGiveTheFocusOn) {
-    const auto shows_black = [this](const char* button) {
-        const QImage image = find(button).grab().toImage();
-        bool black = false;
-        for (int x = 0; x < image.width(); ++x)
-            black |= qGray(image.pixel(x, image.height() / 2)) < 60;
-        return black;
-    };
-    EXPECT_TRUE(shows_black("thermal_command"));
-    EXPECT_FALSE(shows_black("sea_command"));
+    for (const auto& [button, grey] : {std::pair("thermal_command", 120), {"sea_command", 190}})
+        EXPECT_EQ(find(button).grab().toImage().pixelColor(0, 9), QColor(grey, grey, grey));
     act("click hvc_butt, press hvc_command F2");
     EXPECT_TRUE(find("thermal_command").hasFocus());
 }

@@ -86,6 +86,9 @@ TEST_F(Layout, ControlsStandInLine) {
           "HVC Brightness, HScroll4", "HScroll1, HScroll2, HScroll3", "Label15, Label16, Label17",
           "Label22, Label24, Label25", "Label23, Label26", "thermal_butt, thermal_char, Sea_butt"})
         expect_line(column, true);
+    EXPECT_EQ(text("Label8") + text("Label9") + text("Label10") + text("Label11"), "CCFF");
+    EXPECT_EQ(place("thermal_butt").top(), place("Image1").bottom() + 1);
+    EXPECT_LT((place("Label32").topRight() - place("Label1").bottomRight()).manhattanLength(), 20);
 }
 
 TEST_F(Layout, TemperaturesStandUnderTheirCells) {
@@ -134,6 +137,9 @@ TEST_F(Layout, TabGoesThroughAllControlsInOrder) {
         spoken << control->text(QAccessible::Name) + control->text(QAccessible::Description);
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     }
+    EXPECT_EQ(spoken[0] + spoken[4], "Start, degrees CelsiusblankRed");
+    EXPECT_EQ(spoken[8], "Apply ColorClick to apply color to range selected");
+    EXPECT_EQ(spoken[16], "Preset 1: red 255, green 255, blue 255255, 255, 255");
     EXPECT_EQ(spoken.removeDuplicates(), 1); // the first, come round
 }
 
@@ -203,40 +209,37 @@ TEST_F(Layout, TheWindowHasItsLook) {
     EXPECT_EQ(window.minimumSize(), window.maximumSize());
     EXPECT_FALSE(window.windowIcon().isNull());
     EXPECT_FALSE(find<PictureBox>("Image1").image().isNull());
-    EXPECT_EQ(find("Command2").toolTip(), "Click to apply color to range selected");
     paint("Label3", 0, 99, 3); // grey 128, which is 0 in the lowest row of the preview
     const double zoom = std::min(1.0, window.width() / 961.);
     const QPointF preview = place("Picture1").topLeft() + QPointF(2, 2) + zoom * QPointF(50, 0);
     EXPECT_LT(colour_at(preview + zoom * QPointF(0, 254.5)).red(), 3);
     EXPECT_EQ(colour_at(preview + zoom * QPointF(0, 257.5)), QColor(240, 240, 240));
     EXPECT_EQ(colour_at(place("Label22").center() + zoom * QPointF(2.5, 2.5)), Qt::red);
-    for (const char* line : {"Line1", "Line2"})
-        EXPECT_EQ(colour_at(place(line).center()), Qt::black);
     const double half = 0.5 / window.devicePixelRatioF();
-    for (const auto* cells : {&thermal(), &sea(), &hvc()}) {
-        const QRectF row = QRectF(cells->strip(0) | cells->strip(99)).translated(cells->pos());
-        for (const QPointF edge :
-             {row.topLeft() + QPointF(-half, 5), row.topRight() + QPointF(-3, -half),
-              row.bottomRight() + QPointF(half, -5)})
-            EXPECT_EQ(colour_at(edge), QColor(120, 120, 120));
-    }
+    const QRectF row = QRectF(hvc().strip(0) | hvc().strip(99)).translated(hvc().pos());
+    for (const QPointF edge : {QPointF(-half, 5), {row.width() + half, 5}, {400, -half}})
+        EXPECT_EQ(colour_at(row.topLeft() + edge), QColor(120, 120, 120));
     const QColor grey(240, 240, 240);
-    const std::tuple<const char*, QColor, QColor, double> looks[]{
-        {"Cirrava PAL", Qt::blue, grey, 20.25},
-        {"Version 2.1", Qt::blue, grey, 8.25},
-        {"Red", Qt::red, grey, 12},
-        {"Green", Qt::green, grey, 12},
-        {"Blue", Qt::blue, grey, 12},
-        {"Label18", Qt::black, {192, 255, 255}, 8.25},
-        {"Label5", Qt::black, Qt::green, 8.25},
-        {"hvc_butt", Qt::black, Qt::green, 13.5},
-        {"hvc_help", Qt::black, Qt::yellow, 8.25}};
-    for (const auto& [name, ink, ground, points] : looks) {
-        const QWidget& label = control(name);
-        EXPECT_EQ(label.palette().color(label.foregroundRole()), ink) << name;
-        EXPECT_EQ(colour_at(label.geometry().bottomRight() - QPoint(2, 2)), ground) << name;
-        EXPECT_NEAR(label.font().pointSizeF() / window.font().pointSizeF(), points / 8.25, 0.01);
-    }
+    const std::tuple<const char*, QColor, QColor, double, bool> looks[]{
+        {"Label1", Qt::blue, grey, 20.25, true},
+        {"Label32", Qt::blue, grey, 8.25, false},
+        {"Label12", Qt::red, grey, 12, true},
+        {"Label13", Qt::green, grey, 12, true},
+        {"Label14", Qt::blue, grey, 12, true},
+        {"Label21", Qt::black, grey, 12, true},
+        {"Label18 Label19 Label20", Qt::black, {192, 255, 255}, 8.25, false},
+        {"Label5", Qt::black, Qt::green, 8.25, false},
+        {"hvc_butt", Qt::black, Qt::green, 13.5, false},
+        {"Command2", Qt::black, {250, 250, 250}, 9.75, true},
+        {"hvc_help pickcolor", Qt::black, Qt::yellow, 8.25, false}};
+    for (const auto& [names, ink, ground, points, bold] : looks)
+        for (const QString& name : QString(names).split(' ')) {
+            const QWidget& label = find(name);
+            EXPECT_EQ(label.palette().color(label.foregroundRole()), ink) << names;
+            EXPECT_EQ(colour_at(label.geometry().bottomRight() - QPoint(2, 2)), ground) << names;
+            EXPECT_NEAR(label.font().pointSizeF() / window.font().pointSizeF(), points / 8.25, .01);
+            EXPECT_EQ(label.font().bold(), bold) << names;
+        }
 }
 
 } // namespace cirrava
