@@ -23,14 +23,17 @@ void Slider::set_track(const QColor& first, const QColor& last) {
 }
 
 bool Slider::event(QEvent* event) {
-    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::WindowBlocked) {
-        // Qt would take a drag's pending position for the number now, or go on with the drag later.
-        setSliderPosition(value());
-        QMouseEvent release(QEvent::MouseButtonRelease, {}, {}, Qt::LeftButton, Qt::NoButton,
-                            Qt::NoModifier);
-        mouseReleaseEvent(&release);
-    }
+    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::WindowBlocked)
+        give_up_drag();
     return QScrollBar::event(event);
+}
+
+// Qt would take the pending position for the number now, or go on with the drag later.
+void Slider::give_up_drag() {
+    setSliderPosition(value());
+    QMouseEvent release(QEvent::MouseButtonRelease, {}, {}, Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    mouseReleaseEvent(&release);
 }
 
 // Where the middle of the thumb stands at a number, the track has the number's colour.

@@ -32,8 +32,7 @@ protected:
             EXPECT_FALSE(dialog.isVisible());
         });
         act(open);
-        EXPECT_EQ(text("Text1") + text("Label5"), "Thermal");
-        EXPECT_EQ(swatch(), Qt::black);
+        EXPECT_EQ(text("Text1") + text("Label5") + swatch().name(), "Thermal#000000");
         EXPECT_EQ(find<Slider>("HScroll2").value(), 0);
     }
 };
