@@ -4,7 +4,6 @@
 
 #include <QAccessibleWidget>
 #include <QKeyEvent>
-#include <QtNumeric>
 
 namespace cirrava {
 

@@ -9,7 +9,6 @@
 #include "ui/help_windows.h"
 #include "ui/placer.h"
 
-#include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QShortcut>
 #include <utility>
@@ -17,12 +16,6 @@
 namespace cirrava {
 
 Cirrava::Cirrava(Dialogs dialogs) : cdlopen_(std::move(dialogs)) {
-    // A QMainWindow would need no factory, but a third of a MiB more. Installed before anything
-    // asks.
-    QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
-        auto* const window = dynamic_cast<Cirrava*>(object);
-        return window != nullptr ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
-    });
     setObjectName("Cirrava");
     setWindowIcon(program_icon());
     cdlopen_.InitDir = QCoreApplication::applicationDirPath();

@@ -1,9 +1,11 @@
 #include "ui/set_up.h"
 
 #include "platform/file_system.h"
+#include "ui/cirrava.h"
 #include "ui/look.h"
 #include "widgets/held_enter.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QLocale>
 #include <QSettings>
@@ -22,6 +24,11 @@ void set_up_process() {
 void set_up_application(QApplication& application) {
     set_program_look(application);
     ignore_held_enter(application);
+    // A QMainWindow would need no factory, but a third of a MiB more.
+    QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
+        auto* const window = dynamic_cast<Cirrava*>(object);
+        return window != nullptr ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
+    });
 }
 
 } // namespace cirrava
