@@ -31,9 +31,9 @@ bool flush(int descriptor) {
 } // namespace
 
 void let_writes_fail() {
+    // Not ignored, which programs that this one starts would inherit.
     for (const int signal : {SIGXFSZ, SIGPIPE})
-        std::signal(signal,
-                    [](int) {}); // programs that this one starts would inherit an ignored one
+        std::signal(signal, [](int) {});
     int descriptor = 0;
     while (descriptor >= 0 && descriptor <= STDERR_FILENO)
         descriptor = ::open("/dev/null", O_RDWR);

@@ -28,6 +28,7 @@ public:
     }
     QVariant currentValue() const override { return is_blank() ? qQNaN() : box_.text().toDouble(); }
     void setCurrentValue(const QVariant&) override {}
+    // The limits are those of Thermal, within which the other scales lie.
     QVariant minimumValue() const override { return celsius(ScaleKind::thermal, 0); }
     QVariant maximumValue() const override { return celsius(ScaleKind::thermal, 319); }
     // Below 0 there is no step: then Orca says no number where there is a blank.

@@ -21,8 +21,9 @@ public:
     explicit Cirrava(Dialogs dialogs);
 
 private:
-    // Connects what the user does with a control to what answers it. What a user cannot reach, for
-    // it is disabled or behind a modal window, other programs could still work.
+    // Connects what the user does with a control to what answers it. A control that is disabled or
+    // behind a modal window is out of the user's reach, but not of other programs': nothing
+    // answers.
     template <class Control, class Signal, class Action>
     void on(Control& control, Signal signal, Action action) {
         connect(&control, signal, this, [this, &control, action](auto... values) {
