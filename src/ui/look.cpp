@@ -78,8 +78,8 @@ QFont to_font(const FontLook& look) {
     return font;
 }
 
-QImage program_picture() {
-    return read_png(":/picture@2x.png");
+QImage program_picture() { // in a format that Qt scales by itself
+    return read_png(":/picture@2x.png").convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 QIcon program_icon() {

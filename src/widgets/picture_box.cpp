@@ -12,9 +12,12 @@ void PictureBox::show_image(const QImage& image) {
 void PictureBox::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setClipRect(contentsRect());
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, zoom_ < image_.devicePixelRatio());
-    painter.drawImage(QRectF(contentsRect().topLeft(), image_.deviceIndependentSize() * zoom_),
-                      image_);
+    const QRectF box(contentsRect().topLeft(), image_.deviceIndependentSize() * zoom_);
+    QImage shown = image_;
+    if (zoom_ < image_.devicePixelRatio() && !image_.isNull()) // a smooth painter starts threads
+        shown = image_.scaled((box.size() * devicePixelRatioF()).toSize(), Qt::IgnoreAspectRatio,
+                              Qt::SmoothTransformation);
+    painter.drawImage(box, shown);
     painter.setClipping(false);
     QFrame::paintEvent(event);
 }

@@ -65,9 +65,7 @@ public:
         return QFileIconProvider::icon(file.isDir() ? Folder : File);
     }
     QString type(const QFileInfo& file) const override {
-        return file.isDir()
-                   ? "Folder"
-                   : QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).comment();
+        return QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).comment();
     }
 };
 
