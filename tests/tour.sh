@@ -35,7 +35,7 @@ started+=("$program_id")
 in_window "Cirrava PAL"
 window=$(xdotool getactivewindow)
 see "${ground[@]}" f0f0f0
-for line in 7085 8645; do see 9000 "$line" 000000; done # the lines across the window
+for line in 7085 8645; do see 13300 "$line" 000000; done # the lines across the window
 picture 1-start
 
 # By keys alone: cells 220 to 259, the red slider, Apply, the generate button.

@@ -110,7 +110,7 @@ TEST_F(Editing, ColoursTheRangeAndTakesThatBack) {
     expect_only(thermal(), {9, 319}, RGB(255, 0, 0));
     act("press Text1 Ctrl+Y, press Text1 Ctrl+Y"); // no further
     expect_only(sea(), {0, 249}, RGB(255, 0, 1));
-    act("right thermal_char 9, press Text2 Return"); // copies the colour, and so on
+    act("left thermal_char 0, right thermal_char 9, press Text2 Return"); // copies the colour
     EXPECT_EQ(swatch(), Qt::red);
     act("left Label2 9, press Text1 Shift+Enter");
     EXPECT_EQ(swatch(), QColor(255, 0, 1));
