@@ -10,11 +10,7 @@
 
 namespace cirrava {
 
-namespace {
-
 constexpr char preview_file[] = "~~temphvc.bmp"; // in the current directory
-
-} // namespace
 
 HvcPalette::HvcPalette(CommonDialog& cdlopen, const Selection& selection, CellArray& Label3,
                        Slider& HScroll4, PictureBox& Picture1)

@@ -65,17 +65,14 @@ std::string tick_text(ScaleKind kind, int cell) {
     return plain_text(celsius(kind, cell)) + "C/" + fahrenheit_text(kind, cell) + "F";
 }
 
-// GCC 12 warns of an overlap, where there is none, when this starts with "(" + std::to_string(...).
 std::string tooltip_text(ScaleKind kind, int cell) {
-    std::string text = "(";
-    text += std::to_string(cell + 1) + ") " + celsius_text(kind, cell) + "Celcius / ";
-    return text + fahrenheit_text(kind, cell) + "Farenheit";
+    return std::string("(") + std::to_string(cell + 1) + ") " + celsius_text(kind, cell) +
+           "Celcius / " + fahrenheit_text(kind, cell) + "Farenheit";
 }
 
 std::string spoken_text(ScaleKind kind, int cell) {
-    std::string text = "cell ";
-    text += std::to_string(cell + 1) + ", " + celsius_text(kind, cell) + " C, ";
-    return text + fahrenheit_text(kind, cell) + " F";
+    return std::string("cell ") + std::to_string(cell + 1) + ", " + celsius_text(kind, cell) +
+           " C, " + fahrenheit_text(kind, cell) + " F";
 }
 
 } // namespace cirrava

@@ -108,12 +108,10 @@ void Cirrava::connect_keys() {
     press(Qt::CTRL | Qt::Key_S, {&c.thermal_command, &c.sea_command, &c.hvc_command});
     press(Qt::CTRL | Qt::Key_Return, {&c.Command2});
     press(Qt::CTRL | Qt::Key_Enter, {&c.Command2});
-    connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this,
-            [this] { history_.undo(); });
+    new QShortcut(QKeySequence::Undo, this, [this] { history_.undo(); });
     // Desktops differ in the key for redo.
     for (const auto keys : {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})
-        connect(new QShortcut(keys, this), &QShortcut::activated, this,
-                [this] { history_.redo(); });
+        new QShortcut(keys, this, [this] { history_.redo(); });
 }
 
 void Cirrava::apply() {

@@ -8,6 +8,7 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QLocale>
+#include <QLoggingCategory>
 #include <QSettings>
 
 namespace cirrava {
@@ -22,6 +23,9 @@ void set_up_process() {
 }
 
 void set_up_application(QApplication& application) {
+    // Qt's warnings, of faults in an image for instance, would hold the program where nobody reads
+    // its standard error. QT_LOGGING_RULES brings them back.
+    QLoggingCategory::setFilterRules("*=false");
     set_program_look(application);
     ignore_held_enter(application);
     // A QMainWindow would need no factory, but a third of a MiB more.

@@ -7,8 +7,6 @@
 namespace cirrava {
 
 void Button::set_face(const QColor& face) {
-    if (face == face_)
-        return;
     face_ = face;
     update();
 }

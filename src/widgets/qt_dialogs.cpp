@@ -126,16 +126,15 @@ public:
             auto* const button = new Button; // the row owns it
             button->setText(caption);
             // Pressed by its first letter. A shortcut finds Latin letters under other alphabets.
-            auto* const letter = new QShortcut(caption.left(1), this);
-            connect(letter, &QShortcut::activated, button, &Button::click);
+            new QShortcut(caption.left(1), this, button, &Button::click);
             row->addButton(button, caption == "No" ? QDialogButtonBox::NoRole
                                                    : QDialogButtonBox::AcceptRole);
         }
         connect(row, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(row, &QDialogButtonBox::rejected, this, &QDialog::reject);
         column->addWidget(row);
-        connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this,
-                [this] { QGuiApplication::clipboard()->setText(text_); });
+        new QShortcut(QKeySequence::Copy, this,
+                      [this] { QGuiApplication::clipboard()->setText(text_); });
     }
 
 private:

@@ -25,13 +25,14 @@ protected:
             for (auto* const label : dialog.findChildren<QLabel*>())
                 EXPECT_GE(label->height() + 2, label->heightForWidth(label->width()));
             act("left thermal_char 10");
-            find<Button>("color(9)").click();
+            find<Button>("color(9)").animateClick(); // as screen readers do
             find<Slider>("HScroll2").setValue(7);
             emit sea().marked(5, Side::start);
             action(dialog);
             EXPECT_FALSE(dialog.isVisible());
         });
         act(open);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !find<Button>("color(9)").isDown(); }));
         EXPECT_EQ(text("Text1") + text("Label5") + swatch().name(), "Thermal#000000");
         EXPECT_EQ(find<Slider>("HScroll2").value(), 0);
     }
