@@ -8,6 +8,7 @@
 #include "widgets/picture_box.h"
 #include "widgets/sunken_border.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QFileInfo>
 #include <QProcess>
@@ -64,11 +65,13 @@ public:
         cmdOK_.setDefault(true);
         cmdOK_.setFocus();
         connect(&cmdOK_, &Button::clicked, this, &QDialog::accept);
-        connect(&cmdSysInfo_, &Button::clicked, this, [this] { StartSysInfo(); });
+        connect(&cmdSysInfo_, &Button::clicked, this, &AboutWindow::StartSysInfo);
     }
 
 private:
     void StartSysInfo() {
+        if (QApplication::activeModalWidget() != this)
+            return; // pressed by another program, behind the message below
         try {
             const QFileInfo program(find_system_info_program());
             if (QProcess::startDetached(program.filePath(), {}))

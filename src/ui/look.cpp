@@ -46,17 +46,9 @@ public:
 };
 
 QPalette light_palette() {
-    QPalette palette(QColor(240, 240, 240)); // shades of the bevels follow from the ground
-    palette.setColor(QPalette::WindowText, Qt::black);
-    palette.setColor(QPalette::ButtonText, Qt::black);
-    palette.setColor(QPalette::Text, Qt::black);
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(247, 247, 247));
+    QPalette palette(QColor(240, 240, 240)); // black texts and the shades of the bevels follow
     palette.setColor(QPalette::Highlight, QColor(0, 95, 184));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 225));
-    palette.setColor(QPalette::ToolTipText, Qt::black);
-    palette.setColor(QPalette::PlaceholderText, QColor(110, 110, 110));
     palette.setColor(QPalette::Button, QColor(250, 250, 250));
     const QColor edge(120, 120, 120); // 3.9 to 1 against the ground
     palette.setColor(QPalette::Mid, edge);
