@@ -39,9 +39,8 @@ void load_file(CommonDialog& cdlopen, const AllScales& scales, PictureBox& Pictu
         return cdlopen.tell("Selected file is not a color palette");
     }
     file.seek(layout->pixels_offset);
-    const Bytes pixels = file.read(layout->pixels_size);
-    const ScaleControls& scale = scales.at(static_cast<std::size_t>(layout->kind));
-    scale.cells.set_colours(palette_colours(*layout, pixels));
+    const auto colours = palette_colours(*layout, file.read(layout->pixels_size));
+    scales.at(static_cast<std::size_t>(layout->kind)).cells.set_colours(colours);
     if (layout->kind != ScaleKind::hvc)
         return;
     const QImage image = hvc_image_in(file);

@@ -54,7 +54,6 @@ long pixels_offset(std::int32_t bfOffBits) {
 
 std::vector<Colour> colours_of(std::span<const std::uint8_t> pixels) {
     std::vector<Colour> colours;
-    colours.reserve(pixels.size() / pixel_size);
     for (std::size_t i = 0; i + pixel_size <= pixels.size(); i += pixel_size)
         colours.push_back(RGB(pixels[i + 2], pixels[i + 1], pixels[i]));
     return colours;

@@ -8,7 +8,6 @@
 #include "widgets/picture_box.h"
 #include "widgets/sunken_border.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QFileInfo>
 #include <QProcess>
@@ -70,8 +69,6 @@ public:
 
 private:
     void StartSysInfo() {
-        if (QApplication::activeModalWidget() != this)
-            return; // pressed by another program, behind the message below
         try {
             const QFileInfo program(find_system_info_program());
             if (QProcess::startDetached(program.filePath(), {}))

@@ -10,7 +10,6 @@
 
 #include <QApplication>
 #include <QWidget>
-#include <memory>
 
 namespace cirrava {
 
@@ -36,14 +35,7 @@ private:
         });
     }
     template <class Action> void on_click(Button& button, Action action) {
-        // A screen reader's press becomes a click a while later, when the modal window may be gone.
-        const auto in_reach = std::make_shared<bool>();
-        connect(&button, &Button::pressed, this,
-                [in_reach] { *in_reach = QApplication::activeModalWidget() == nullptr; });
-        on(button, &Button::clicked, [in_reach, action](bool) {
-            if (*in_reach)
-                action();
-        });
+        on(button, &Button::clicked, [action](bool) { action(); });
     }
     void connect_scales();
     void connect_box(RangeBox& box, Side side);

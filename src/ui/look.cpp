@@ -48,7 +48,6 @@ public:
 QPalette light_palette() {
     QPalette palette(QColor(240, 240, 240)); // black texts and the shades of the bevels follow
     palette.setColor(QPalette::Highlight, QColor(0, 95, 184));
-    palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 225));
     palette.setColor(QPalette::Button, QColor(250, 250, 250));
     const QColor edge(120, 120, 120); // 3.9 to 1 against the ground
     palette.setColor(QPalette::Mid, edge);

@@ -2,6 +2,7 @@
 
 #include "widgets/key.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
 namespace cirrava {
@@ -14,6 +15,21 @@ void Button::set_face(const QColor& face) {
 QRect Button::caption_box() const {
     constexpr QMargins margins(3, 3, 3, 3);
     return rect() - margins;
+}
+
+bool Button::event(QEvent* event) {
+    if (event->type() == QEvent::WindowUnblocked)
+        in_reach_ = false;
+    return QPushButton::event(event);
+}
+
+// Qt makes a screen reader's press a click a while later, when the modal window that it was pressed
+// behind may have gone.
+void Button::timerEvent(QTimerEvent* event) {
+    const auto* const modal = QApplication::activeModalWidget();
+    const bool heard = in_reach_ && (modal == nullptr || modal == window());
+    const QSignalBlocker silence(heard ? nullptr : this);
+    QPushButton::timerEvent(event);
 }
 
 void Button::paintEvent(QPaintEvent*) {

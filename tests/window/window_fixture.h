@@ -47,7 +47,7 @@ struct User {
 template <class Dialog> void in_next(const std::function<void(Dialog&)>& action) {
     QTimer::singleShot(0, [action] {
         auto& dialog = dynamic_cast<Dialog&>(*QApplication::activeModalWidget());
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isActiveWindow(); }));
         action(dialog);
         if (dialog.isVisible())
             dialog.reject();
