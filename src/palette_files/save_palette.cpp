@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <optional>
 
 namespace cirrava {
 
@@ -15,23 +14,12 @@ bool ask_whether_to(const QString& verb, CommonDialog& cdlopen) {
     return cdlopen.ask(verb + " " + out_path + "?", "Ready to create");
 }
 
-// Asks whether to write the file that was chosen, and opens it. While the question stands, another
-// program may make a file or a link there: that is asked about, too, before it is written over.
-std::optional<BinaryFile> open_to_write(CommonDialog& cdlopen) {
-    const auto path = cdlopen.file_path();
-    try {
-        if (!plain_file_exists(path)) {
-            if (!ask_whether_to("Write", cdlopen))
-                return std::nullopt;
-            return BinaryFile(path, FileAccess::create);
-        }
-    } catch (const Failure& failure) {
-        if (failure.number != FailureNumber::file_exists)
-            throw;
-    }
-    if (!ask_whether_to("OVERWRITE", cdlopen))
-        return std::nullopt;
-    return BinaryFile(path, FileAccess::write);
+// Asks whether to write `path`, the file that was chosen. While the question stands, another
+// program may make a file there: then that is asked about, too.
+bool may_write(const std::filesystem::path& path, CommonDialog& cdlopen) {
+    if (!plain_file_exists(path) && !ask_whether_to("Write", cdlopen))
+        return false;
+    return !plain_file_exists(path) || ask_whether_to("OVERWRITE", cdlopen);
 }
 
 } // namespace
@@ -44,12 +32,13 @@ bool save_palette(CommonDialog& cdlopen, const Bytes& image, const SaveTexts& te
         cdlopen.DialogTitle = texts.title;
         cdlopen.CancelError = true;
         cdlopen.ShowSave();
-        auto file = open_to_write(cdlopen);
-        if (!file)
+        const auto path = cdlopen.file_path();
+        if (!may_write(path, cdlopen))
             return false;
-        file->write(image);
-        file->sync();
-        file->close();
+        BinaryFile file(path, FileAccess::write);
+        file.write(image);
+        file.sync();
+        file.close();
         return true;
     } catch (const Failure& failure) {
         cdlopen.tell(texts.message_start, failure, " A problem occured during file creation");

@@ -28,8 +28,6 @@ FailureNumber failure_of(std::error_code error) {
     case EINVAL:
     case EILSEQ:
         return bad_file_name;
-    case EEXIST:
-        return file_exists;
     case ENOSPC:
     case EFBIG:
 #ifdef EDQUOT

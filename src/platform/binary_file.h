@@ -13,8 +13,8 @@ namespace cirrava {
 using Bytes = std::vector<std::uint8_t>;
 
 // A regular file, open for as long as the object lives. Every operation that fails throws a
-// Failure: bad_file_name, file_not_found, device_error, file_exists, disk_full, too_many_files,
-// not_ready, path_access (also for anything but a regular file) or path_not_found.
+// Failure: bad_file_name, file_not_found, device_error, disk_full, too_many_files, not_ready,
+// path_access (also for anything but a regular file) or path_not_found.
 class BinaryFile {
 public:
     // Opens `path` at its first byte.

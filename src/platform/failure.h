@@ -7,7 +7,6 @@ enum class FailureNumber : int {
     bad_file_name = 52,  // empty, too long, or with characters that no name may have
     file_not_found = 53, // the folder is there, the file is not
     device_error = 57,   // an input or output error, and everything not foreseen here
-    file_exists = 58,    // where a new file was to be made
     disk_full = 61,      // also a quota or a file-size limit
     past_end = 62,       // a file ends before what must be in it
     too_many_files = 67, // no further file can be opened

@@ -9,10 +9,9 @@
 namespace cirrava {
 
 enum class FileAccess {
-    read,   // an existing file
-    create, // where there is nothing of that name, not even a link; EEXIST otherwise
-    write,  // created when missing, never shortened; may be read, too
-    own     // as write, but neither through a link nor into a file with a second name
+    read,  // an existing file
+    write, // created when missing, never shortened; may be read, too
+    own    // as write, but neither through a link nor into a file with a second name
 };
 
 // Makes writes past the process's file-size limit, or into a pipe that nobody reads, fail like any

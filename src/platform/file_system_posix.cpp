@@ -13,8 +13,7 @@ namespace {
 int flags_of(FileAccess access) {
     if (access == FileAccess::read)
         return O_RDONLY;
-    return O_RDWR | O_CREAT | (access == FileAccess::create ? O_EXCL : 0) |
-           (access == FileAccess::own ? O_NOFOLLOW : 0);
+    return O_RDWR | O_CREAT | (access == FileAccess::own ? O_NOFOLLOW : 0);
 }
 
 bool has_one_name(int descriptor) {

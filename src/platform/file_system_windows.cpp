@@ -11,10 +11,7 @@ namespace cirrava {
 namespace {
 
 int flags_of(FileAccess access) {
-    const int flags = _O_BINARY | _O_NOINHERIT;
-    if (access == FileAccess::read)
-        return flags | _O_RDONLY;
-    return flags | _O_RDWR | _O_CREAT | (access == FileAccess::create ? _O_EXCL : 0);
+    return _O_BINARY | _O_NOINHERIT | (access == FileAccess::read ? _O_RDONLY : _O_RDWR | _O_CREAT);
 }
 
 // Whether the open file `path` is the only name of its content and no link to another.

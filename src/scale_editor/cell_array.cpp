@@ -29,6 +29,7 @@ constexpr int cells_per_row = 100;
 
 CellArray::CellArray(ScaleKind kind) : kind_(kind), colours_(cell_count(kind), RGB(0, 0, 0)) {
     QAccessible::installFactory(accessible_cells); // once, however often it is asked for
+    setMouseTracking(true);
 }
 
 void CellArray::set_colours(std::span<const Colour> colours) {
@@ -103,15 +104,19 @@ int CellArray::cell_at(QPointF point) const {
 }
 
 bool CellArray::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked)
+        pressed_ = {}; // the window that opens gets the releases
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
-    const auto* help = static_cast<QHelpEvent*>(event);
-    const int cell = cell_at(help->pos());
-    if (cell < 0)
+    show_tooltip(static_cast<QHelpEvent*>(event)->globalPos());
+    return true;
+}
+
+void CellArray::show_tooltip(const QPoint& point) {
+    if (hovered_ < 0)
         QToolTip::hideText();
     else
-        QToolTip::showText(help->globalPos(), to_qt(tooltip_text(kind_, cell)), this, strip(cell));
-    return true;
+        QToolTip::showText(point, to_qt(tooltip_text(kind_, hovered_)), this, strip(hovered_));
 }
 
 // The painter does not smooth edges. So what is whole device pixels high is so wherever it starts.
@@ -158,6 +163,11 @@ void CellArray::tell_screen_readers(QAccessible::Event what) {
     QAccessible::updateAccessibility(&event);
 }
 
+// The place that comes with a tooltip's event is rounded.
+void CellArray::mouseMoveEvent(QMouseEvent* event) {
+    hovered_ = cell_under(*event);
+}
+
 // While a button that was pressed over a cell is held, Qt sends the others here too, from wherever
 // they are pressed.
 void CellArray::mousePressEvent(QMouseEvent* event) {
@@ -166,7 +176,7 @@ void CellArray::mousePressEvent(QMouseEvent* event) {
 
 void CellArray::mouseReleaseEvent(QMouseEvent* event) {
     if (pressed_.testFlag(event->button()))
-        emit released(event->scenePosition(),
+        emit released(event->globalPosition(),
                       event->button() == Qt::LeftButton ? Side::start : Side::end);
     pressed_.setFlag(event->button(), false);
 }
@@ -178,14 +188,14 @@ void CellArray::mouseDoubleClickEvent(QMouseEvent* event) {
         emit colour_asked(cell);
 }
 
-// The scene of a widget is its window. Qt rounds the position in the widget itself, on dense
-// screens to the pixel beside the right one.
+// Qt rounds the position of an event in the widget itself, on dense screens to the pixel beside the
+// right one.
 int CellArray::cell_under(const QMouseEvent& event) const {
-    return cell_at(mapFrom(window(), event.scenePosition()));
+    return cell_at(mapFromGlobal(event.globalPosition()));
 }
 
 void CellArray::mark_at(QPointF point, Side side) {
-    if (const int cell = cell_at(mapFrom(window(), point)); cell >= 0)
+    if (const int cell = cell_at(mapFromGlobal(point)); cell >= 0)
         emit marked(cell, side);
 }
 

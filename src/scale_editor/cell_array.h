@@ -49,7 +49,7 @@ public:
     // The uppermost cell at `point`; -1 where there is none.
     int cell_at(QPointF point) const;
 
-    // Marks the cell at `point` of the window, if there is one.
+    // Marks the cell at `point` of the screen, if there is one.
     void mark_at(QPointF point, Side side);
 
 signals:
@@ -57,19 +57,21 @@ signals:
     void marked(int cell, Side side);
     void colour_asked(int cell); // by a double click with the left button
 
-    // A mouse button that was pressed over a cell was released at `point` of the window: the left
+    // A mouse button that was pressed over a cell was released at `point` of the screen: the left
     // one for the start of the range, any other for its end.
     void released(QPointF point, Side side);
 
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
     int cell_under(const QMouseEvent& event) const; // -1 where there is none
+    void show_tooltip(const QPoint& point);         // of the cell under the pointer
     void tell_screen_readers(QAccessible::Event what);
     QList<QRectF> rows_of(const Range& cells) const;
     int visible_width(int cell) const;                        // in twips
@@ -82,6 +84,7 @@ private:
     int left_ = 0;
     int top_ = 0;
     int dpi_ = 96;
+    int hovered_ = -1;         // the cell under the pointer; -1 where there is none
     Qt::MouseButtons pressed_; // over cells, and not yet released
 };
 

@@ -1,21 +1,45 @@
 #include "ui/placer.h"
 
 #include "widgets/focus_outline.h"
+#include "widgets/screen_room.h"
 
-#include <QScreen>
-#include <QWindow>
+#include <QEvent>
 #include <QtMath>
 
 namespace cirrava {
 
 namespace {
 
-// Returns by how much a client area must be shrunk to fit on `screen`, from 0.6 to 1.
+// Keeps the size of a window that cannot be resized, on whichever screen.
+class FixedSize : public QObject {
+public:
+    FixedSize(QWidget& window, QSize size) : QObject(&window), window_(window), size_(size) {
+        window.setFixedSize(size);
+        window.installEventFilter(this);
+    }
+
+    // On a screen of another density a window keeps its number of device pixels. To set the size
+    // that it has already would reach no window manager.
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::ScreenChangeInternal) {
+            window_.setFixedSize(size_ + QSize(1, 1));
+            window_.setFixedSize(size_);
+        }
+        return false;
+    }
+
+private:
+    QWidget& window_;
+    QSize size_;
+};
+
+// Returns by how much a client area must be shrunk to fit on `screen`: to 1 at the most, and not
+// below 0.6 of the dots that the eye has there.
 double fitting(QSize client_area, const QScreen& screen) {
-    constexpr QSize frame(10, 40); // about what window managers put around a window
-    const QSizeF room = screen.availableSize() - frame;
-    return qBound(
-        0.6, qMin(room.width() / client_area.width(), room.height() / client_area.height()), 1.0);
+    const QSizeF room = room_on(screen);
+    return qBound(0.6 / screen.devicePixelRatio(),
+                  qMin(room.width() / client_area.width(), room.height() / client_area.height()),
+                  1.0);
 }
 
 // Narrows the font of `control` until `caption` fits `box`, which is in the control's pixels.
@@ -52,18 +76,10 @@ Placer::Placer(QWidget& window, const QString& title, QSize client_area) : windo
                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
                           Qt::MSWindowsFixedSizeDialogHint);
     window.setWindowTitle(title);
-    const QSize size = to_pixels(rect, dpi_).size();
-    window.setFixedSize(size);
-    // On a screen of another density it would keep its number of device pixels. To set the size
-    // that it has already would reach no window manager.
-    window.winId(); // which makes the handle
-    QObject::connect(window.windowHandle(), &QWindow::screenChanged, &window, [&window, size] {
-        window.setFixedSize(size + QSize(1, 1));
-        window.setFixedSize(size);
-    });
     if (shrink_ < 1)
         window.setFont(scaled_font({}));
-    new FocusOutline(window); // the window owns it
+    new FixedSize(window, to_pixels(rect, dpi_).size()); // the window owns both
+    new FocusOutline(window);
 }
 
 void Placer::control(QWidget& control, const QString& name, const QString& spoken,

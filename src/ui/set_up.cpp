@@ -3,6 +3,7 @@
 #include "platform/file_system.h"
 #include "ui/cirrava.h"
 #include "ui/look.h"
+#include "widgets/double_click.h"
 #include "widgets/held_enter.h"
 
 #include <QAccessibleWidget>
@@ -28,6 +29,7 @@ void set_up_application(QApplication& application) {
     QLoggingCategory::setFilterRules("*=false");
     set_program_look(application);
     ignore_held_enter(application);
+    ignore_split_double_clicks(application);
     // A QMainWindow would need no factory, but a third of a MiB more.
     QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
         auto* const window = dynamic_cast<Cirrava*>(object);

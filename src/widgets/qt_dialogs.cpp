@@ -1,5 +1,6 @@
 #include "widgets/button.h"
 #include "widgets/dialogs.h"
+#include "widgets/screen_room.h"
 
 #include <QAccessibleWidget>
 #include <QClipboard>
@@ -58,6 +59,15 @@ void make_room_for_names(QFileDialog& dialog) {
             side_bar->setMinimumWidth(side_bar->sizeHintForColumn(0) + 2 * side_bar->frameWidth());
 }
 
+// The path of the file that was chosen. Qt takes quotation marks in a name for those around several
+// names.
+QString chosen_in(const QFileDialog& dialog) {
+    const auto* const edit = dialog.findChild<QLineEdit*>();
+    if (edit != nullptr && edit->text().contains(u'"'))
+        return dialog.directory().absoluteFilePath(edit->text());
+    return dialog.selectedFiles().value(0);
+}
+
 // What a file is, by its name alone: Qt's own looks into files, which may take for ever.
 class FileKinds : public QFileIconProvider {
 public:
@@ -89,9 +99,10 @@ std::optional<QString> ask_for_file(QWidget& parent, QFileDialog::AcceptMode mod
     dialog.selectFile(question.name);
     let_typing_replace_selection(dialog);
     make_room_for_names(dialog);
+    dialog.resize(dialog.sizeHint().boundedTo(room_on(*parent.screen())));
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return QDir::cleanPath(dialog.selectedFiles().value(0));
+    return QDir::cleanPath(chosen_in(dialog));
 }
 
 // Lets words wider than `width` pixels, such as a long path, be broken anywhere: returns `text`
