@@ -17,6 +17,14 @@ save_as() {
     echo "$2: $(stat --format=%s "$2") bytes, each as it must be"
 }
 
+# look_into TITLE KEY LEFT TOP: opens the window of that title by the button there, and closes it by the key.
+look_into() {
+    click "${@:3}"
+    in_window "$1"
+    xdotool key "$2"
+    in_window "Cirrava PAL"
+}
+
 on_private_bus "$@"
 case $1 in
     *.exe) program=(wine "$(realpath "$1")") drive=Z: ;; # on which Wine has these files
@@ -50,6 +58,12 @@ thermal_cell 220 see ff0000
 picture 2-thermal
 xdotool key --repeat 5 Tab key Return
 save_as "Create Thermal" thermal.bmp
+
+# Every window once, after which the main one must work as before.
+look_into "About CirravaPal" Escape "${about[@]}"
+look_into "Cirrava PAL How To" alt+F4 "${how_to_use[@]}" # as by the close box
+look_into "About HVC Palette" alt+F4 "${hvc_help[@]}"
+look_into "Select Color" Escape "${pick_colour[@]}"
 
 click "${hvc_butt[@]}"
 see 300 6150 00ff00 # the button

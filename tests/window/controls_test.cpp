@@ -1,37 +1,41 @@
 #include "window_fixture.h"
 
-#include <QAccessible>
-#include <QHelpEvent>
-#include <QKeyEvent>
-#include <QShortcut>
-#include <QToolTip>
-#include <QWheelEvent>
-
 namespace cirrava {
 
 using Controls = WindowTest;
 
-TEST_F(Controls, CellsTellTheirTemperaturesAndAreWorkedByScreenReaders) {
+TEST_F(Controls, CellsAreHeardAndWorkedByScreenReaders) {
     paint("thermal_char", 30, 40, 12);
     const auto* cells = QAccessible::queryAccessibleInterface(&thermal());
     auto* cell = cells->child(35);
+    EXPECT_EQ(cells->indexOfChild(cell), 35);
     EXPECT_EQ(cell->text(QAccessible::Name), "cell 36, -92.5 C, -134.5 F");
     EXPECT_EQ(cell->text(QAccessible::Description), "red 255, green 224, blue 192");
     EXPECT_EQ(cell->rect(), QRect(window.mapToGlobal(QPoint(288, 137)), QSize(8, 15)));
     EXPECT_EQ(cells->childAt(cell->rect().x(), cell->rect().y()), cell);
-    EXPECT_TRUE(cell->state().selected);
+    EXPECT_TRUE(cell->state().selectable && cell->state().selected);
     EXPECT_FALSE(cells->child(41)->state().selected);
-    EXPECT_EQ(find("sample").accessibleDescription(), "red 255, green 224, blue 192");
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Window);
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(&find("Text1"))->role(), QAccessible::SpinBox);
-    QHelpEvent rest(QEvent::ToolTip, thermal().cell_box(35).center(), cell->rect().center());
-    QCoreApplication::sendEvent(&thermal(), &rest);
-    EXPECT_EQ(QToolTip::text(), "(37) -92.0Celcius / -133.6Farenheit"); // which lies over 36
     act("click color(5)");
     for (const QString& action : cell->actionInterface()->actionNames())
-        cell->actionInterface()->doAction(action);
+        cell->actionInterface()->doAction(action); // mark as start, as end, copy the colour
     EXPECT_EQ(text("Text1") + text("Text2"), "-92.5-92.5");
     EXPECT_EQ(swatch(), QColor(255, 224, 192));
+}
+
+TEST_F(Controls, BoxesAndTooltipsTellWhatTheyShow) {
+    act("left thermal_char 35, click color(12)");
+    auto* box = QAccessible::queryAccessibleInterface(&find("Text1"));
+    EXPECT_EQ(box->role(), QAccessible::SpinBox);
+    EXPECT_EQ(box->valueInterface()->currentValue(), -92.5);
+    EXPECT_EQ(find("Text3").accessibleName(), "Start, degrees Fahrenheit -134.5");
+    EXPECT_EQ(find("sample").accessibleDescription(), "red 255, green 224, blue 192");
+    EXPECT_EQ(find("sample").toolTip() + find("Command4").toolTip(), "255, 224, 192F1");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Window);
+    const QPoint between = thermal().cell_box(35).center(); // which the next cell lies over
+    QTest::mouseMove(window.windowHandle(), thermal().pos() + between);
+    QHelpEvent rest(QEvent::ToolTip, between, thermal().mapToGlobal(between));
+    QCoreApplication::sendEvent(&thermal(), &rest);
+    EXPECT_EQ(QToolTip::text(), "(37) -92.0Celcius / -133.6Farenheit");
 }
 
 TEST_F(Controls, OtherProgramsCannotWriteWhereTheUserCannot) {
@@ -71,9 +75,9 @@ TEST_F(Controls, SlidersMoveByOne) {
     Slider& bar = find<Slider>("HScroll1");
     const QPoint arrow(bar.width() - 4, 8);
     QTest::mousePress(&bar, Qt::LeftButton, {}, arrow);
-    EXPECT_EQ(bar.grab().toImage().pixelColor(arrow.x(), 4), QColor(200, 200, 200)); // is darker
     QTest::mouseRelease(&bar, Qt::LeftButton, {}, arrow);
     QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() - 30, 8}); // the track
+    EXPECT_TRUE(bar.hasFocus());
     for (int part = 0; part < 3; ++part) { // a fine wheel, a notch in all
         QWheelEvent turn({9, 9}, {9, 9}, {}, {0, 40}, {}, {}, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(&bar, &turn);
@@ -90,9 +94,7 @@ TEST_F(Controls, TheColourDialogOpensAtTheColour) {
     EXPECT_EQ(user.saw, (QStringList{"#ffffff", "#ff0000"})); // white in place of black
 }
 
-TEST_F(Controls, DisabledButtonsLookDisabledAndGiveTheFocusOn) {
-    for (const auto& [button, grey] : {std::pair("thermal_command", 120), {"sea_command", 190}})
-        EXPECT_EQ(find(button).grab().toImage().pixelColor(0, 9), QColor(grey, grey, grey));
+TEST_F(Controls, DisabledButtonsGiveTheFocusOn) {
     act("click hvc_butt, press hvc_command F2");
     EXPECT_TRUE(find("thermal_command").hasFocus());
 }

@@ -2,7 +2,6 @@
 
 #include "scale_editor/qt_values.h"
 
-#include <QFile>
 #include <csignal>
 #include <unistd.h>
 
@@ -15,8 +14,6 @@ extern "C" int fallocate(int, int, off_t offset, off_t size) {
 }
 
 namespace cirrava {
-
-namespace {
 
 const QString not_created(" A problem occured during file creation");
 
@@ -33,8 +30,6 @@ protected:
         return user.saw;
     }
 };
-
-} // namespace
 
 TEST_F(Files, AreAskedForWrittenAndReadBack) {
     const QString file = folder.filePath("a.bmp");

@@ -2,11 +2,8 @@
 
 #include "ui/cirrava.h"
 
-#include <QApplication>
-#include <QDir>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 inline void PrintTo(const QString& text, std::ostream* out) {
@@ -88,7 +85,8 @@ protected:
     }
 
     // Does what a user does, step by step: "click Command1, press Text1 Ctrl+End" or, with a button
-    // of the mouse, "left thermal_char 220"; "double" is a double click with the left one.
+    // of the mouse, "left thermal_char 220"; "double" is a double click with the left one. "hold"
+    // presses without release.
     void act(const QString& steps) {
         for (const QString& step : steps.split(", ")) {
             const QStringList words = step.split(' ');
@@ -101,6 +99,9 @@ protected:
                 press(QKeySequence(words[2]));
             } else if (words[0] == "click") {
                 QTest::mouseClick(&control, button);
+            } else if (words[0] == "hold") { // near the end, where a slider has an arrow
+                QTest::mousePress(&control, button, {},
+                                  control.rect().bottomRight() - QPoint(4, 8));
             } else {
                 const QPoint point = inside(find<CellArray>(words[1]), words[2].toInt());
                 QTest::mouseClick(window.windowHandle(), button, {}, point);
