@@ -1,5 +1,5 @@
-"""The running program's window on the accessibility bus. Run as a program, colours a cell, listens
-whether screen readers are told of it, and presses the Quit button.
+"""The running program's window on the accessibility bus. Run as a program, marks and colours a cell,
+listens whether screen readers are told of each step, and presses the Quit button.
 
 Fails while the program is not on the bus.
 """
@@ -21,8 +21,8 @@ def window():
     return program.get_child_at_index(0)
 
 
-def expect_new_description(node, act):
-    """Does `act` and fails unless screen readers are told of another description of the node."""
+def expect(event_type, node, act):
+    """Does `act` and fails unless screen readers are told of such an event of the node."""
     loop = GLib.MainLoop()
     told = []
 
@@ -32,19 +32,22 @@ def expect_new_description(node, act):
             loop.quit()
 
     listener = Atspi.EventListener.new(listen)
-    listener.register("object:property-change:accessible-description")
+    listener.register(event_type)
     GLib.timeout_add_seconds(10, loop.quit)
     act()
     loop.run()
+    listener.deregister(event_type)
     if not told:
-        sys.exit("Screen readers are not told of new colours.")
+        sys.exit(f"Screen readers are not told of {event_type} of {node.get_name()}.")
 
 
 if __name__ == "__main__":
     controls = {control.get_name(): control for control in children(window())}
-    cell = controls["Thermal scale"].get_child_at_index(5)
-    for action in (0, 1):  # mark as start, mark as end
-        cell.do_action(action)
+    scale = controls["Thermal scale"]
+    cell = scale.get_child_at_index(5)
+    for action, side in enumerate(("Start", "End")):  # marks the cell as such
+        box = controls[f"{side}, degrees Celsius"]
+        expect("object:property-change:accessible-value", box, lambda action=action: cell.do_action(action))
     controls["Preset 10: red 255, green 0, blue 0"].do_action(0)
-    expect_new_description(controls["Thermal scale"], lambda: controls["Apply Color"].do_action(0))
+    expect("object:property-change:accessible-description", scale, lambda: controls["Apply Color"].do_action(0))
     controls["Quit"].do_action(0)

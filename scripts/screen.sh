@@ -80,6 +80,11 @@ click() {
     xdotool click "${3:-1}"
 }
 
+double_click() {
+    point_at "$1" "$2"
+    xdotool click --repeat 2 --delay 80 1
+}
+
 # colour_at LEFT TOP: six hexadecimal digits, in twips of the main window.
 colour_at() {
     import -window "$window" -crop "1x1+$(pixels "$1")+$(pixels "$2")" -depth 8 rgb:- |

@@ -17,12 +17,39 @@ save_as() {
     echo "$2: $(stat --format=%s "$2") bytes, each as it must be"
 }
 
+start() {
+    env HOME="$folder/home" XDG_CONFIG_HOME="$folder/home" XDG_CURRENT_DESKTOP=KDE \
+        KDE_SESSION_VERSION=5 "${program[@]}" &
+    program_id=$!
+    started+=("$program_id")
+    in_window "Cirrava PAL"
+    window=$(xdotool getactivewindow)
+    see "${ground[@]}" f0f0f0
+}
+
+has_ended() { wait "$program_id" || fail "the program ended with status $?"; }
+
+# works_on: after another window, cells still take the current colour, red, and give theirs.
+cell=0
+works_on() {
+    in_window "Cirrava PAL"
+    ((++cell))
+    sea_cell $cell click
+    sea_cell $cell click 3
+    click "${apply[@]}"
+    sea_cell $cell see ff0000
+    sea_cell 240 double_click
+    see "${swatch[@]}" 000000
+    sea_cell $cell double_click
+    see "${swatch[@]}" ff0000
+}
+
 # look_into TITLE KEY LEFT TOP: opens the window of that title by the button there, and closes it by the key.
 look_into() {
     click "${@:3}"
     in_window "$1"
     xdotool key "$2"
-    in_window "Cirrava PAL"
+    works_on
 }
 
 on_private_bus "$@"
@@ -36,13 +63,7 @@ cd "$folder"
 mkdir home
 printf '[Colors:%s]\nBackgroundNormal=35,38,41\nForegroundNormal=252,252,252\n' \
     Window Button View Tooltip >home/kdeglobals
-env HOME="$folder/home" XDG_CONFIG_HOME="$folder/home" XDG_CURRENT_DESKTOP=KDE \
-    KDE_SESSION_VERSION=5 "${program[@]}" &
-program_id=$!
-started+=("$program_id")
-in_window "Cirrava PAL"
-window=$(xdotool getactivewindow)
-see "${ground[@]}" f0f0f0
+start
 for line in 7085 8645; do see 13300 "$line" 000000; done # the lines across the window
 picture 1-start
 
@@ -58,17 +79,45 @@ thermal_cell 220 see ff0000
 picture 2-thermal
 xdotool key --repeat 5 Tab key Return
 save_as "Create Thermal" thermal.bmp
+works_on
 
-# Every window once, after which the main one must work as before.
-look_into "About CirravaPal" Escape "${about[@]}"
-look_into "Cirrava PAL How To" alt+F4 "${how_to_use[@]}" # as by the close box
+look_into "Cirrava PAL How To" alt+F4 "${how_to_use[@]}" # as by its close box
 look_into "About HVC Palette" alt+F4 "${hvc_help[@]}"
+look_into "About CirravaPal" Escape "${about[@]}"
 look_into "Select Color" Escape "${pick_colour[@]}"
+click "${load[@]}"
+in_window "Read and Load palette"
+xdotool key Escape
+in_window "CirravaPal"
+xdotool key Return
+works_on
+# A range that starts behind its end is refused. The message takes the release of a press on a cell, which
+# must not count later; its OK lies over cells, which must not get the second half of a double click.
+sea_cell 30 click
+sea_cell 35 point_at
+xdotool mousedown 1 key ctrl+Return
+in_window "CirravaPal"
+message=$(xdotool getactivewindow)
+eval "$(xdotool getwindowgeometry --shell "$message")"
+ok=("$((WIDTH - 50))" "$((HEIGHT - 20))")
+xdotool mousemove --window "$message" "${ok[@]}" mouseup 1 key Return
+in_window "Cirrava PAL"
+point_at 4800 4800 # between two rows
+xdotool mousedown 3
+sea_cell 40 point_at
+xdotool mouseup 3 key ctrl+Return
+in_window "CirravaPal" # as before
+xdotool mousemove --window "$(xdotool getactivewindow)" "${ok[@]}" click --repeat 2 --delay 80 1
+works_on
+xdotool key alt+F4
+has_ended
 
+start
 click "${hvc_butt[@]}"
 see 300 6150 00ff00 # the button
 hvc_cell 20 click
 hvc_cell 39 click 3
+click "${red_slider[@]}" 3 # which opens nothing
 click "${preset_9[@]}"
 click "${apply[@]}"
 see "${preview_of_cell_30[@]}" ff0000
@@ -88,7 +137,7 @@ see "${preview_of_cell_30[@]}" ff0000
 picture 4-undone
 
 click "${quit[@]}"
-wait "$program_id" || fail "the program ended with status $?"
+has_ended
 [[ $(ls home) == kdeglobals ]] || fail "the program has left something behind: $(ls home)"
 rm -r home
 [[ -n ${2:-} ]] || rm -r "$folder"

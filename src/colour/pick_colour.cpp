@@ -6,7 +6,6 @@ namespace cirrava {
 
 void pick_colour(CommonDialog& cdlopen, CurrentColour& current_colour) {
     try {
-        cdlopen.CancelError = true;
         // From black, the dialog's spectrum shows no colour.
         const bool black = current_colour.colour() == RGB(0, 0, 0);
         cdlopen.ShowColor(black ? Qt::white : to_qt(current_colour.colour()));

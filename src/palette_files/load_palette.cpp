@@ -53,8 +53,6 @@ void load_file(CommonDialog& cdlopen, const AllScales& scales, PictureBox& Pictu
 
 void load_palette(CommonDialog& cdlopen, const AllScales& scales, PictureBox& Picture1) {
     try {
-        cdlopen.Filter = "*.bmp";
-        cdlopen.CancelError = true;
         cdlopen.DialogTitle = "Read and Load palette";
         cdlopen.ShowOpen();
         load_file(cdlopen, scales, Picture1);

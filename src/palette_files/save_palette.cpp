@@ -2,7 +2,6 @@
 
 #include "platform/failure.h"
 
-#include <QCoreApplication>
 #include <QDir>
 
 namespace cirrava {
@@ -26,11 +25,8 @@ bool may_write(const std::filesystem::path& path, CommonDialog& cdlopen) {
 
 bool save_palette(CommonDialog& cdlopen, const Bytes& image, const SaveTexts& texts) {
     try {
-        cdlopen.InitDir = QCoreApplication::applicationDirPath();
         cdlopen.FileName = texts.file_name;
-        cdlopen.Filter = "*.bmp";
         cdlopen.DialogTitle = texts.title;
-        cdlopen.CancelError = true;
         cdlopen.ShowSave();
         const auto path = cdlopen.file_path();
         if (!may_write(path, cdlopen))

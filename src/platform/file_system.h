@@ -18,7 +18,7 @@ enum class FileAccess {
 // other; by default the system would end the program, and the palette with it. Opens those of the
 // standard streams that are closed: else the next file that is opened would take the place of one,
 // and what is written to that. To be called before all else.
-void let_writes_fail();
+void prepare_for_files();
 
 // Opens `path` at its first byte without waiting for anything, not even for the other end of a
 // pipe. Returns null and sets errno on failure.

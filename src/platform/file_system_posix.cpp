@@ -29,7 +29,7 @@ bool flush(int descriptor) {
 
 } // namespace
 
-void let_writes_fail() {
+void prepare_for_files() {
     // Not ignored, which programs that this one starts would inherit.
     for (const int signal : {SIGXFSZ, SIGPIPE})
         std::signal(signal, [](int) {});

@@ -1,7 +1,6 @@
-#include "scale_editor/accessible_cells.h"
-
 #include "scale_editor/cell_array.h"
 #include "scale_editor/qt_values.h"
+#include "widgets/in_reach.h"
 #include "widgets/spoken_colour.h"
 
 #include <QAccessibleWidget>
@@ -62,6 +61,8 @@ public:
     }
     QStringList actionNames() const override { return {mark_as_start, mark_as_end, copy_colour}; }
     void doAction(const QString& action) override {
+        if (!in_reach(*cells_))
+            return;
         if (action == mark_as_start)
             emit cells_->marked(cell_, Side::start);
         else if (action == mark_as_end)
@@ -116,9 +117,8 @@ private:
 
 } // namespace
 
-QAccessibleInterface* accessible_cells(const QString&, QObject* object) {
-    auto* const cells = qobject_cast<CellArray*>(object);
-    return cells != nullptr ? new AccessibleCells(*cells) : nullptr;
+QAccessibleInterface* CellArray::new_accessible() {
+    return new AccessibleCells(*this);
 }
 
 } // namespace cirrava

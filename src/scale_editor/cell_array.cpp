@@ -1,8 +1,6 @@
 #include "scale_editor/cell_array.h"
 
-#include "scale_editor/accessible_cells.h"
 #include "scale_editor/qt_values.h"
-#include "widgets/twips.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -28,7 +26,6 @@ constexpr int cells_per_row = 100;
 } // namespace
 
 CellArray::CellArray(ScaleKind kind) : kind_(kind), colours_(cell_count(kind), RGB(0, 0, 0)) {
-    QAccessible::installFactory(accessible_cells); // once, however often it is asked for
     setMouseTracking(true);
 }
 
@@ -38,7 +35,8 @@ void CellArray::set_colours(std::span<const Colour> colours) {
         return;
     std::copy_n(colours.begin(), count, colours_.begin());
     update();
-    tell_screen_readers(QAccessible::DescriptionChanged);
+    QAccessibleEvent event(this, QAccessible::DescriptionChanged); // screen readers hear it
+    QAccessible::updateAccessibility(&event);
     emit changed();
 }
 
@@ -55,7 +53,6 @@ void CellArray::underline(const QList<Range>& marked, const Range& dotted) {
     marked_ = marked;
     dotted_ = dotted;
     update();
-    tell_screen_readers(QAccessible::SelectionWithin);
 }
 
 bool CellArray::is_marked(int cell) const {
@@ -106,17 +103,11 @@ int CellArray::cell_at(QPointF point) const {
 bool CellArray::event(QEvent* event) {
     if (event->type() == QEvent::WindowBlocked)
         pressed_ = {}; // the window that opens gets the releases
-    if (event->type() != QEvent::ToolTip)
+    if (event->type() != QEvent::ToolTip || hovered_ < 0)
         return QWidget::event(event);
-    show_tooltip(static_cast<QHelpEvent*>(event)->globalPos());
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                       to_qt(tooltip_text(kind_, hovered_)), this, strip(hovered_));
     return true;
-}
-
-void CellArray::show_tooltip(const QPoint& point) {
-    if (hovered_ < 0)
-        QToolTip::hideText();
-    else
-        QToolTip::showText(point, to_qt(tooltip_text(kind_, hovered_)), this, strip(hovered_));
 }
 
 // The painter does not smooth edges. So what is whole device pixels high is so wherever it starts.
@@ -156,11 +147,6 @@ QList<QRectF> CellArray::rows_of(const Range& cells) const {
         first = next_row;
     }
     return rows;
-}
-
-void CellArray::tell_screen_readers(QAccessible::Event what) {
-    QAccessibleEvent event(this, what);
-    QAccessible::updateAccessibility(&event);
 }
 
 // The place that comes with a tooltip's event is rounded.

@@ -3,9 +3,9 @@
 #include "scale_editor/colour.h"
 #include "scale_editor/range.h"
 #include "scale_editor/scale.h"
+#include "widgets/spoken.h"
 #include "widgets/twips.h"
 
-#include <QAccessible>
 #include <QList>
 #include <QWidget>
 #include <span>
@@ -18,7 +18,7 @@ namespace cirrava {
 //
 // The widget also covers the temperatures between its rows. There it is transparent, but for the
 // lines under cells, and reacts to nothing.
-class CellArray : public QWidget {
+class CellArray : public QWidget, public Spoken {
     Q_OBJECT
 public:
     explicit CellArray(ScaleKind kind);
@@ -49,6 +49,10 @@ public:
     // The uppermost cell at `point`; -1 where there is none.
     int cell_at(QPointF point) const;
 
+    // A list of its cells, each with its number and temperatures as name, its colour as
+    // description, its position, and the actions of its mouse buttons.
+    QAccessibleInterface* new_accessible() override;
+
     // Marks the cell at `point` of the screen, if there is one.
     void mark_at(QPointF point, Side side);
 
@@ -71,8 +75,6 @@ protected:
 
 private:
     int cell_under(const QMouseEvent& event) const; // -1 where there is none
-    void show_tooltip(const QPoint& point);         // of the cell under the pointer
-    void tell_screen_readers(QAccessible::Event what);
     QList<QRectF> rows_of(const Range& cells) const;
     int visible_width(int cell) const;                        // in twips
     QRect to_pixels_of(int cell, const TwipRect& part) const; // `part` from the cell's top left

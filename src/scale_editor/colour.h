@@ -18,10 +18,6 @@ constexpr Colour RGB(int red, int green, int blue) {
     return red | green << 8 | blue << 16;
 }
 
-constexpr Colour RGB(const ChannelBytes& bytes) {
-    return RGB(bytes.red_byte, bytes.green_byte, bytes.blue_byte);
-}
-
 // The three channels of `color`; its high byte is ignored.
 constexpr ChannelBytes Data_byte_calc(Colour color) {
     return {.red_byte = static_cast<std::uint8_t>(color & 255),

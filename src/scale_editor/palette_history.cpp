@@ -23,11 +23,11 @@ void PaletteHistory::remember() {
 void PaletteHistory::go_to(qsizetype index) {
     if (index < 0 || index >= past_and_future_.size())
         return;
+    const bool changes_hvc = past_and_future_[index].back() != past_and_future_[current_].back();
     current_ = index;
-    const auto hvc_before = scales_.back().cells.colours();
     for (std::size_t i = 0; i < scales_.size(); ++i)
         scales_[i].cells.set_colours(past_and_future_[index][i]);
-    if (scales_.back().cells.colours() != hvc_before)
+    if (changes_hvc)
         hvc_changed_();
 }
 

@@ -1,9 +1,10 @@
 #include "scale_editor/range_box.h"
 
-#include "scale_editor/scale.h"
+#include "scale_editor/qt_values.h"
 
 #include <QAccessibleWidget>
 #include <QKeyEvent>
+#include <utility>
 
 namespace cirrava {
 
@@ -19,69 +20,58 @@ public:
     QString text(QAccessible::Text which) const override {
         if (which != QAccessible::Description)
             return QAccessibleWidget::text(which);
-        return is_blank() ? "blank" : box_.text();
+        return box_.cell() ? box_.text() : "blank";
     }
 
     void* interface_cast(QAccessible::InterfaceType type) override {
         return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
                                                    : QAccessibleWidget::interface_cast(type);
     }
-    QVariant currentValue() const override { return is_blank() ? qQNaN() : box_.text().toDouble(); }
+    QVariant currentValue() const override { return box_.cell() ? value(*box_.cell()) : qQNaN(); }
     void setCurrentValue(const QVariant&) override {}
-    // The limits are those of Thermal, within which the other scales lie.
-    QVariant minimumValue() const override { return celsius(ScaleKind::thermal, 0); }
-    QVariant maximumValue() const override { return celsius(ScaleKind::thermal, 319); }
-    // Below 0 there is no step: then Orca says no number where there is a blank.
-    QVariant minimumStepSize() const override {
-        return is_blank() ? -1 : box_.text().contains('.') ? 0.1 : 1;
-    }
+    QVariant minimumValue() const override { return value(0); }
+    QVariant maximumValue() const override { return value(cell_count(box_.kind()) - 1); }
+    // A blank has no value, but there is no way to say so: of one with a step below 0, Orca at
+    // least says no number.
+    QVariant minimumStepSize() const override { return box_.cell() ? value(1) - value(0) : -1; }
 
 private:
-    bool is_blank() const { return box_.text().trimmed().isEmpty(); }
+    double value(int cell) const { return celsius(box_.kind(), cell); }
 
     RangeBox& box_;
 };
 
 } // namespace
 
-RangeBox::RangeBox() {
-    // The same function is installed once, however often.
-    QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
-        auto* const box = qobject_cast<RangeBox*>(object);
-        return box != nullptr ? new AccessibleRangeBox(*box) : nullptr;
-    });
-}
-
-void RangeBox::show_text(const QString& text) {
-    if (text == this->text())
+void RangeBox::show_cell(ScaleKind kind, std::optional<int> cell) {
+    const QString before = text();
+    kind_ = kind;
+    cell_ = cell;
+    setText(cell ? to_qt(celsius_text(kind, *cell)) : " ");
+    if (text() == before)
         return;
-    setText(text);
     QAccessibleValueChangeEvent event(this, {}); // who hears of it asks for the value
     QAccessible::updateAccessibility(&event);
 }
 
+QAccessibleInterface* RangeBox::new_accessible() {
+    return new AccessibleRangeBox(*this);
+}
+
 void RangeBox::keyPressEvent(QKeyEvent* event) {
-    constexpr int page = 10;
+    constexpr std::pair<int, int> steps[]{{Qt::Key_Up, 1},      {Qt::Key_Right, 1},
+                                          {Qt::Key_Down, -1},   {Qt::Key_Left, -1},
+                                          {Qt::Key_PageUp, 10}, {Qt::Key_PageDown, -10}};
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         return emit colour_asked();
-    switch (event->keyCombination().toCombined() & ~Qt::KeypadModifier) {
-    case Qt::Key_Up:
-    case Qt::Key_Right:
-        return emit stepped(1);
-    case Qt::Key_Down:
-    case Qt::Key_Left:
-        return emit stepped(-1);
-    case Qt::Key_PageUp:
-        return emit stepped(page);
-    case Qt::Key_PageDown:
-        return emit stepped(-page);
-    case (Qt::CTRL | Qt::Key_Home).toCombined():
-        return emit sent_to_limit(false);
-    case (Qt::CTRL | Qt::Key_End).toCombined():
-        return emit sent_to_limit(true);
-    default:
-        TextBox::keyPressEvent(event);
-    }
+    const int pressed = event->keyCombination().toCombined() & ~Qt::KeypadModifier;
+    for (const auto& [key, cells] : steps)
+        if (pressed == key)
+            return emit stepped(cells);
+    for (const auto key : {Qt::Key_Home, Qt::Key_End})
+        if (pressed == (Qt::CTRL | key).toCombined())
+            return emit sent_to_limit(key == Qt::Key_End);
+    TextBox::keyPressEvent(event);
 }
 
 } // namespace cirrava

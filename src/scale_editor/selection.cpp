@@ -3,16 +3,8 @@
 #include "scale_editor/qt_values.h"
 
 #include <algorithm>
-#include <string>
 
 namespace cirrava {
-
-Selection::Selection(const AllScales& scales, QLabel& Label5, const Bound& range_start,
-                     const Bound& range_end)
-    : scales_(scales), Label5_(Label5), working_scale_(&scales.front()), range_start_(range_start),
-      range_end_(range_end) {
-    show_working_scale();
-}
 
 void Selection::choose(const ScaleControls& scale) {
     if (&scale == working_scale_)
@@ -98,15 +90,12 @@ void Selection::show_working_scale() {
 
 void Selection::show_range() {
     const ScaleKind kind = working_scale_->kind();
-    for (const Bound& bound : {range_start_, range_end_}) {
-        const auto text = [&bound](const std::string& temperature) {
-            return bound.shown ? to_qt(temperature) : QString(" ");
-        };
-        bound.celsius.show_text(text(celsius_text(kind, bound.cell)));
-        bound.fahrenheit.setText(text(fahrenheit_text(kind, bound.cell)));
+    for (const auto& [boxes, cell, shown] : {range_start_, range_end_}) {
+        boxes.celsius.show_cell(kind, shown ? std::optional(cell) : std::nullopt);
+        boxes.fahrenheit.setText(shown ? to_qt(fahrenheit_text(kind, cell)) : QString(" "));
         // Of a box without a value, screen readers say the name alone.
-        bound.fahrenheit.setAccessibleName(bound.fahrenheit.accessibleDescription() + " " +
-                                           bound.fahrenheit.text());
+        boxes.fahrenheit.setAccessibleName(boxes.fahrenheit.accessibleDescription() + " " +
+                                           boxes.fahrenheit.text());
     }
     for (const ScaleControls& scale : scales_) {
         const bool working = &scale == working_scale_;

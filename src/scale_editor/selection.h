@@ -15,16 +15,16 @@ namespace cirrava {
 // `Label5`, the controls that belong to one scale only, the boxes and the lines under the cells.
 class Selection {
 public:
-    // One side of the range.
-    struct Bound {
+    // The boxes of one side of the range.
+    struct Boxes {
         RangeBox& celsius;
         TextBox& fahrenheit;
-        int cell = 0;       // of the scale that was clicked last
-        bool shown = false; // in the boxes; then it is a cell of the working scale
     };
 
-    Selection(const AllScales& scales, QLabel& Label5, const Bound& range_start,
-              const Bound& range_end);
+    Selection(const AllScales& scales, QLabel& Label5, const Boxes& start, const Boxes& end)
+        : scales_(scales), Label5_(Label5), range_start_{start}, range_end_{end} {
+        show_working_scale();
+    }
 
     const ScaleControls& working_scale() const { return *working_scale_; }
 
@@ -54,6 +54,13 @@ public:
     Range brightness_range() const;
 
 private:
+    // One side of the range.
+    struct Bound {
+        Boxes boxes;
+        int cell = 0;       // of the scale that was clicked last
+        bool shown = false; // in the boxes; then it is a cell of the working scale
+    };
+
     QList<Range> marked_cells() const;
     void blank();
     void show_working_scale();
@@ -61,7 +68,7 @@ private:
 
     const AllScales& scales_;
     QLabel& Label5_;
-    const ScaleControls* working_scale_;
+    const ScaleControls* working_scale_ = &scales_.front();
     Bound range_start_, range_end_; // the start may lie behind the end
 };
 

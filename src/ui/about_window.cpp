@@ -4,7 +4,6 @@
 #include "platform/system_info.h"
 #include "ui/placer.h"
 #include "widgets/dialogs.h"
-#include "widgets/line.h"
 #include "widgets/picture_box.h"
 #include "widgets/sunken_border.h"
 
@@ -16,20 +15,6 @@
 namespace cirrava {
 
 namespace {
-
-constexpr char description[] =
-    "This application can be used to generate 24 bit color palette files which can be used by "
-    "Cirrava to produce color enhancements as per your requirements,  in Thermal, HVC and Sea "
-    "Surface temperature categories.\n\n"
-    "Please click the \"How to use\" button to learn more.\n\n"
-    "Developed by Quillmark.";
-
-constexpr char disclaimer[] =
-    "This software comes with the usual warnings. It was developed as a hobby in free time and "
-    "tested reasonably well. Please report faults, and send a note of appreciation if you like it. "
-    "To communicate, please use Cirrava's user group. This is free software that comes with no "
-    "warranty or claim.\n\n"
-    "Good luck";
 
 class AboutWindow : public QDialog, private Placer {
 public:
@@ -44,10 +29,12 @@ public:
         label(lblTitle_, "lblTitle", program_title, {1560, 240, 2565, 480}, title);
         label(lblVersion_, "lblVersion", "Version " CIRRAVA_VERSION, {1560, 840, 1245, 225});
         label(Label1_, "Label1", "Quillmark", {3000, 840, 1365, 225});
-        label(lblDescription_, "lblDescription", description, {1560, 1125, 3885, 1770});
+        label(lblDescription_, "lblDescription", read_text(":/description.txt"),
+              {1560, 1125, 3885, 1770});
         control(Line1_[1], "Line1(1)", "", {90, 3120, 5564, 15});
         control(Line1_[0], "Line1(0)", "", {120, 3240, 5549, 30});
-        label(lblDisclaimer_, "lblDisclaimer", disclaimer, {120, 3360, 3870, 1665});
+        label(lblDisclaimer_, "lblDisclaimer", read_text(":/disclaimer.txt"),
+              {120, 3360, 3870, 1665});
         button(cmdOK_, "cmdOK", "Exit ", {4320, 4560, 1260, 345});
         button(cmdSysInfo_, "cmdSysInfo", "System Info", {4320, 3600, 1245, 705});
 
@@ -57,8 +44,8 @@ public:
         for (QLabel* text : {&lblTitle_, &lblVersion_, &Label1_, &lblDescription_, &lblDisclaimer_})
             text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         // Together the lines look etched into the window.
-        give_look(Line1_[1], {.text = qRgb(128, 128, 128)});
-        give_look(Line1_[0], {.text = qRgb(255, 255, 255)});
+        give_look(Line1_[1], {.ground = qRgb(128, 128, 128)});
+        give_look(Line1_[0], {.ground = qRgb(255, 255, 255)});
         fit_captions(*this);
 
         cmdOK_.setDefault(true);
@@ -81,7 +68,7 @@ private:
 
     PictureBox picIcon_;
     QLabel lblTitle_, lblVersion_, Label1_, lblDescription_, lblDisclaimer_;
-    std::array<Line, 2> Line1_;
+    std::array<QWidget, 2> Line1_;
     Button cmdOK_, cmdSysInfo_;
 };
 

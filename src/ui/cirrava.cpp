@@ -8,7 +8,9 @@
 #include "ui/about_window.h"
 #include "ui/help_windows.h"
 #include "ui/placer.h"
+#include "widgets/in_reach.h"
 
+#include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QShortcut>
 #include <utility>
@@ -19,7 +21,6 @@ Cirrava::Cirrava(Dialogs dialogs) : cdlopen_(std::move(dialogs)) {
     setObjectName("Cirrava");
     setWindowIcon(program_icon());
     cdlopen_.InitDir = QCoreApplication::applicationDirPath();
-    cdlopen_.FileName = "*.bmp";
     cdlopen_.Filter = "*.bmp";
 
     connect_scales();
@@ -30,14 +31,19 @@ Cirrava::Cirrava(Dialogs dialogs) : cdlopen_(std::move(dialogs)) {
     fit_captions(*this);
 }
 
+// A QMainWindow would be known as a window by itself, but take a third of a MiB more.
+QAccessibleInterface* Cirrava::new_accessible() {
+    return new QAccessibleWidget(this, QAccessible::Window);
+}
+
 void Cirrava::connect_scales() {
     auto& c = controls_;
     for (const ScaleControls& scale : c.scales) {
         on_click(scale.choose, [this, &scale] { selection_.choose(scale); });
-        on(scale.cells, &CellArray::marked,
-           [this, &scale](int cell, Side side) { selection_.mark(scale, cell, side); });
-        on(scale.cells, &CellArray::colour_asked,
-           [this, &scale](int cell) { current_colour_.take(scale.cells.colour(cell)); });
+        connect(&scale.cells, &CellArray::marked, this,
+                [this, &scale](int cell, Side side) { selection_.mark(scale, cell, side); });
+        connect(&scale.cells, &CellArray::colour_asked, this,
+                [this, &scale](int cell) { current_colour_.take(scale.cells.colour(cell)); });
         for (const ScaleControls& other : c.scales) // over which the pointer may be by then
             connect(&scale.cells, &CellArray::released, &other.cells, &CellArray::mark_at);
     }
@@ -47,10 +53,11 @@ void Cirrava::connect_scales() {
 }
 
 void Cirrava::connect_box(RangeBox& box, Side side) {
-    on(box, &RangeBox::stepped, [this, side](int cells) { selection_.step(side, cells); });
-    on(box, &RangeBox::sent_to_limit,
-       [this, side](bool warmest) { selection_.send_to_limit(side, warmest); });
-    on(box, &RangeBox::colour_asked, [this, side] {
+    connect(&box, &RangeBox::stepped, this,
+            [this, side](int cells) { selection_.step(side, cells); });
+    connect(&box, &RangeBox::sent_to_limit, this,
+            [this, side](bool warmest) { selection_.send_to_limit(side, warmest); });
+    connect(&box, &RangeBox::colour_asked, this, [this, side] {
         if (const auto cell = selection_.cell_of(side))
             current_colour_.take(selection_.working_scale().cells.colour(*cell));
     });
@@ -59,7 +66,10 @@ void Cirrava::connect_box(RangeBox& box, Side side) {
 void Cirrava::connect_colour() {
     auto& c = controls_;
     for (const auto& [slider, readout] : c.channels)
-        on(slider, &Slider::valueChanged, [this](int) { current_colour_.follow_sliders(); });
+        connect(&slider, &Slider::valueChanged, this, [this, &slider = slider] {
+            in_reach(slider) ? current_colour_.follow_sliders()
+                             : current_colour_.take(current_colour_.colour()); // puts it back
+        });
     for (Button& preset : c.color)
         on_click(preset, [this, &preset] { current_colour_.take(from_qt(preset.face())); });
     on_click(c.pickcolor, [this] { pick_colour(cdlopen_, current_colour_); });
@@ -77,7 +87,10 @@ void Cirrava::connect_files() {
                      {"sea.bmp", "Create Sea Surface Palette", "Error # "});
     });
     on_click(c.hvc_command, [this] { hvc_palette_.generate(); });
-    on(c.HScroll4, &Slider::valueChanged, [this](int) { hvc_palette_.brightness_changed(); });
+    connect(&c.HScroll4, &Slider::valueChanged, this, [this, &c] {
+        in_reach(c.HScroll4) ? hvc_palette_.brightness_changed()
+                             : c.HScroll4.setValue(HvcPalette::slider_rest);
+    });
     on_click(c.Command5, [this, &c] { load_palette(cdlopen_, c.scales, c.Picture1); });
 }
 

@@ -7,35 +7,24 @@
 #include "ui/cirrava_controls.h"
 #include "widgets/common_dialog.h"
 #include "widgets/dialogs.h"
+#include "widgets/spoken.h"
 
-#include <QApplication>
 #include <QWidget>
 
 namespace cirrava {
 
 // The main window. It owns the controls and the controllers and connects each event to what answers
 // it.
-class Cirrava : public QWidget {
+class Cirrava : public QWidget, public Spoken {
 public:
     Cirrava() : Cirrava(qt_dialogs(*this)) {}
     explicit Cirrava(Dialogs dialogs);
 
+    QAccessibleInterface* new_accessible() override;
+
 private:
-    // Connects what the user does with a control to what answers it. A control that is disabled or
-    // behind a modal window is out of the user's reach, but not of other programs': nothing
-    // answers.
-    template <class Control, class Signal, class Action>
-    void on(Control& control, Signal signal, Action action) {
-        connect(&control, signal, this, [this, &control, action](auto... values) {
-            if (control.isEnabled() && QApplication::activeModalWidget() == nullptr)
-                return action(values...);
-            // Sliders alone hold what was done to them.
-            current_colour_.take(current_colour_.colour());
-            controls_.HScroll4.setValue(HvcPalette::slider_rest);
-        });
-    }
     template <class Action> void on_click(Button& button, Action action) {
-        on(button, &Button::clicked, [action](bool) { action(); });
+        connect(&button, &Button::clicked, this, action);
     }
     void connect_scales();
     void connect_box(RangeBox& box, Side side);

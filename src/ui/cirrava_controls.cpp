@@ -1,7 +1,6 @@
 #include "ui/cirrava_controls.h"
 
 #include "scale_editor/qt_values.h"
-#include "ui/placer.h"
 #include "widgets/spoken_colour.h"
 #include "widgets/sunken_border.h"
 
@@ -15,6 +14,7 @@ constexpr QRgb blue = qRgb(0, 0, 255);
 constexpr FontLook bold_12{.points = 12, .bold = true};
 
 constexpr Look title{.text = blue, .font = {FontFamily::narrow, 20.25, true}};
+constexpr Look black{.ground = qRgb(0, 0, 0)};
 constexpr Look version{.text = blue};
 constexpr Look cyan{.ground = qRgb(192, 255, 255)};
 constexpr Look green{.ground = qRgb(0, 255, 0)};
@@ -57,6 +57,8 @@ CirravaControls::CirravaControls(QWidget& window) : Placer(window, "Cirrava PAL"
     control(Image1, "Image1", "A satellite above the earth", {5640, 0, 1080, 1440});
     control(Line1, "Line1", "", {0, 7080, 13440, 15});
     control(Line2, "Line2", "", {0, 8640, 14400, 15});
+    give_look(Line1, black);
+    give_look(Line2, black);
 
     // Thermal
     label(Label18, "Label18", "-110C to 49.5C in 0.5C Intervals ", {1680, 1680, 2415, 255}, cyan);

@@ -7,7 +7,6 @@
 #include "scale_editor/scale_controls.h"
 #include "ui/placer.h"
 #include "widgets/button.h"
-#include "widgets/line.h"
 #include "widgets/picture_box.h"
 #include "widgets/slider.h"
 #include "widgets/swatch.h"
@@ -28,7 +27,7 @@ struct CirravaControls : private Placer {
     // Title and decoration
     QLabel Label1, Label32;
     PictureBox Image1;
-    Line Line1, Line2;
+    QWidget Line1, Line2;
 
     // The scales: their choice, cells and files
     Button thermal_butt, Sea_butt, hvc_butt;

@@ -1,6 +1,5 @@
 #include "ui/help_windows.h"
 
-#include "ui/help_texts.h"
 #include "ui/placer.h"
 
 #include <QDialog>
@@ -13,11 +12,26 @@ namespace cirrava {
 namespace {
 
 constexpr QRgb paper = qRgb(255, 192, 128);
-constexpr QRgb dark_green = qRgb(0, 64, 0);
-constexpr QRgb green = qRgb(0, 128, 0);
+
+// A text, caption or file of it, and how it stands in a window.
+struct Part {
+    QString text;
+    TwipRect rect;
+    Look look = {};
+};
 
 // A text to read, of which only whole lines show.
 class HelpText : public QPlainTextEdit {
+public:
+    HelpText() {
+        setForegroundRole(QPalette::Text);
+        setBackgroundRole(QPalette::Base);
+        setReadOnly(true);
+        setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        setTabChangesFocus(true);
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    }
+
 protected:
     void paintEvent(QPaintEvent* event) override {
         QRect box = viewport()->rect();
@@ -29,34 +43,24 @@ protected:
     }
 };
 
-// A window with a text to read and a button that closes it.
-class HelpWindow : public QDialog, public Placer {
+// A window with a text from a file and a button that closes it, under a heading or none.
+class HelpWindow : public QDialog, private Placer {
 public:
-    HelpWindow(QWidget& parent, const QString& name, const QString& title, QSize client_area)
+    HelpWindow(QWidget& parent, const QString& name, const QString& title, QSize client_area,
+               const Part& text, const Part& exit, const Part& heading = {})
         : QDialog(&parent), Placer(*this, title, client_area) {
         setObjectName(name);
-        Command1.setAutoDefault(false); // Enter in the text does not press it
-        connect(&Command1, &Button::clicked, this, &QDialog::accept);
+        if (!heading.text.isEmpty()) // the window owns it
+            label(*new QLabel, "Label1", heading.text, heading.rect, heading.look);
+        control(Text1_, "Text1", title, text.rect);
+        give_look(Text1_, text.look);
+        Text1_.setPlainText(read_text(text.text));
+        Text1_.setFocus();
+        button(Command1_, "Command1", exit.text, exit.rect, exit.look);
+        Command1_.setAutoDefault(false); // Enter in the text does not press it
+        connect(&Command1_, &Button::clicked, this, &QDialog::accept);
+        fit_captions(*this);
     }
-
-    void text(const QString& text, const TwipRect& rect, QRgb ink, const FontLook& font) {
-        control(Text1, "Text1", windowTitle(), rect);
-        Text1.setFont(scaled_font(font));
-        QPalette palette = Text1.palette();
-        palette.setColor(QPalette::Base, QColor(paper));
-        palette.setColor(QPalette::Text, QColor(ink));
-        Text1.setPalette(palette);
-        Text1.setReadOnly(true);
-        Text1.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-        Text1.setTabChangesFocus(true);
-        Text1.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-        Text1.setPlainText(text);
-        Text1.setFocus();
-    }
-
-    QLabel Label1;
-    HelpText Text1;
-    Button Command1;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
@@ -69,27 +73,31 @@ protected:
         windowHandle()->setScreen(parentWidget()->screen());
         QWidget::showEvent(event);
     }
+
+private:
+    HelpText Text1_;
+    Button Command1_;
 };
 
 } // namespace
 
 void show_palhelp(QWidget& parent) {
-    HelpWindow window(parent, "palhelp", "Cirrava PAL How To", {10170, 9255});
-    window.text(how_to_use_text, {240, 240, 9375, 8175}, dark_green, {.points = 12});
-    window.button(window.Command1, "Command1", "Exit", {3600, 8520, 2295, 615});
-    window.exec();
+    constexpr Look dark_green{.text = qRgb(0, 64, 0), .ground = paper, .font = {.points = 12}};
+    HelpWindow(parent, "palhelp", "Cirrava PAL How To", {10170, 9255},
+               {":/how_to_use.txt", {240, 240, 9375, 8175}, dark_green},
+               {"Exit", {3600, 8520, 2295, 615}})
+        .exec();
 }
 
 void show_hvchelp(QWidget& parent) {
-    constexpr Look heading{.font = {FontFamily::narrow, 14.25, true, true}}; // underlined
+    constexpr Look green{.text = qRgb(0, 128, 0), .ground = paper, .font = {.points = 9.75}};
     constexpr Look narrow{.font = {.family = FontFamily::narrow}};
-    HelpWindow window(parent, "hvchelp", "About HVC Palette", {4680, 6915});
-    window.label(window.Label1, "Label1", "Information about HVC Palette", {120, 240, 4335, 375},
-                 heading);
-    window.text(hvc_text, {120, 840, 4335, 5175}, green, {.points = 9.75});
-    window.button(window.Command1, "Command1", "QUIT", {1320, 6240, 1935, 495}, narrow);
-    fit_captions(window);
-    window.exec();
+    constexpr Look underlined{.font = {FontFamily::narrow, 14.25, true, true}};
+    HelpWindow(parent, "hvchelp", "About HVC Palette", {4680, 6915},
+               {":/hvc.txt", {120, 840, 4335, 5175}, green},
+               {"QUIT", {1320, 6240, 1935, 495}, narrow},
+               {"Information about HVC Palette", {120, 240, 4335, 375}, underlined})
+        .exec();
 }
 
 } // namespace cirrava

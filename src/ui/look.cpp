@@ -1,6 +1,7 @@
 #include "ui/look.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QImageReader>
 #include <QPalette>
 #include <QProxyStyle>
@@ -78,6 +79,12 @@ QIcon program_icon() {
     for (const int size : {16, 32, 64}) // title bars need no larger one
         icon.addPixmap(QPixmap::fromImage(read_png(QString(":/icon-%1.png").arg(size))));
     return icon;
+}
+
+QString read_text(const QString& file) {
+    QFile resource(file);
+    resource.open(QIODevice::ReadOnly);
+    return QString::fromUtf8(resource.readAll()).trimmed();
 }
 
 void set_program_look(QApplication& application) {

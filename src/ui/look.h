@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QImage>
 #include <QRgb>
+#include <QString>
 #include <optional>
 
 class QApplication;
@@ -35,6 +36,9 @@ QFont to_font(const FontLook& look);
 QImage program_picture();
 
 QIcon program_icon();
+
+// A text among the program's resources, as ":/hvc.txt", one line for each paragraph.
+QString read_text(const QString& file);
 
 // Sets the Fusion style with one fixed light palette and the standard font. To be called before any
 // window is made.

@@ -1,9 +1,9 @@
 #include "ui/placer.h"
 
 #include "widgets/focus_outline.h"
-#include "widgets/screen_room.h"
 
 #include <QEvent>
+#include <QScreen>
 #include <QtMath>
 
 namespace cirrava {
@@ -36,7 +36,8 @@ private:
 // Returns by how much a client area must be shrunk to fit on `screen`: to 1 at the most, and not
 // below 0.6 of the dots that the eye has there.
 double fitting(QSize client_area, const QScreen& screen) {
-    const QSizeF room = room_on(screen);
+    constexpr QSize frame(10, 40); // about what window managers put around a window
+    const QSizeF room = screen.availableSize() - frame;
     return qBound(0.6 / screen.devicePixelRatio(),
                   qMin(room.width() / client_area.width(), room.height() / client_area.height()),
                   1.0);

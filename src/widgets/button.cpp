@@ -1,8 +1,8 @@
 #include "widgets/button.h"
 
+#include "widgets/in_reach.h"
 #include "widgets/key.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 
 namespace cirrava {
@@ -17,18 +17,16 @@ QRect Button::caption_box() const {
     return rect() - margins;
 }
 
+// With the modal window goes what was pressed behind it.
 bool Button::event(QEvent* event) {
     if (event->type() == QEvent::WindowUnblocked)
-        in_reach_ = false;
+        setDown(false);
     return QPushButton::event(event);
 }
 
-// Qt makes a screen reader's press a click a while later, when the modal window that it was pressed
-// behind may have gone.
+// Qt makes a screen reader's press a click a while later.
 void Button::timerEvent(QTimerEvent* event) {
-    const auto* const modal = QApplication::activeModalWidget();
-    const bool heard = in_reach_ && (modal == nullptr || modal == window());
-    const QSignalBlocker silence(heard ? nullptr : this);
+    const QSignalBlocker silence(isDown() && in_reach(*this) ? nullptr : this);
     QPushButton::timerEvent(event);
 }
 

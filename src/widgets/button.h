@@ -10,10 +10,6 @@ namespace cirrava {
 class Button : public QPushButton {
     Q_OBJECT
 public:
-    Button() {
-        connect(this, &Button::pressed, this, [this] { in_reach_ = true; });
-    }
-
     // An invalid colour gives back the standard face.
     void set_face(const QColor& face);
     QColor face() const { return face_; }
@@ -28,7 +24,6 @@ protected:
 
 private:
     QColor face_;
-    bool in_reach_ = false; // pressed since the last modal window has gone
 };
 
 } // namespace cirrava

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <optional>
 #include <system_error>
 
 namespace cirrava {
@@ -17,6 +18,12 @@ QString writable_folder(const QString& wanted) {
         if (may_write_in(QFileInfo(folder).filesystemFilePath()))
             return folder;
     return QDir::homePath();
+}
+
+template <class Answer> Answer given(const std::optional<Answer>& answer) {
+    if (!answer)
+        throw Failure{FailureNumber::cancelled};
+    return *answer;
 }
 
 } // namespace
@@ -52,14 +59,7 @@ FileQuestion CommonDialog::file_question() const {
     return {.title = DialogTitle,
             .filter = Filter,
             .folder = FileName.contains(u'/') ? file.path() : writable_folder(InitDir),
-            .name = FileName == Filter ? QString() : file.fileName()};
-}
-
-template <class Answer> Answer CommonDialog::given(const std::optional<Answer>& answer) const {
-    Q_ASSERT(CancelError);
-    if (!answer)
-        throw Failure{FailureNumber::cancelled};
-    return *answer;
+            .name = file.fileName()};
 }
 
 } // namespace cirrava

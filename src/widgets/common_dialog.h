@@ -6,7 +6,6 @@
 #include <QColor>
 #include <QString>
 #include <filesystem>
-#include <optional>
 #include <utility>
 
 namespace cirrava {
@@ -17,17 +16,17 @@ class CommonDialog {
 public:
     explicit CommonDialog(Dialogs dialogs) : dialogs_(std::move(dialogs)) {}
 
-    // Before a file dialog: the name to propose, with or without a folder; a pattern such as
-    // "*.bmp" proposes none. After it: the full path chosen.
+    // Before a file dialog: the name to propose, with or without a folder. After it: the full path
+    // chosen.
     QString FileName;
     QString DialogTitle;
-    QString Filter;
+    QString Filter; // a pattern such as "*.bmp"
     // The folder in which a dialog opens when FileName has none. Where the user may not write
     // there, it opens in the user's documents folder or home instead.
     QString InitDir;
-    bool CancelError = false; // true at each call: a cancel throws Failure{cancelled}
-    QColor Color;             // after ShowColor: the colour chosen
+    QColor Color; // after ShowColor: the colour chosen
 
+    // These throw Failure{cancelled} when the user cancels.
     void ShowOpen();
     void ShowSave();
     void ShowColor(const QColor& shown_first);
@@ -46,7 +45,6 @@ public:
 
 private:
     FileQuestion file_question() const;
-    template <class Answer> Answer given(const std::optional<Answer>& answer) const;
 
     Dialogs dialogs_;
 };

@@ -1,6 +1,6 @@
 #include "widgets/button.h"
 #include "widgets/dialogs.h"
-#include "widgets/screen_room.h"
+#include "widgets/spoken.h"
 
 #include <QAccessibleWidget>
 #include <QClipboard>
@@ -18,7 +18,6 @@
 #include <QRegularExpression>
 #include <QScreen>
 #include <QShortcut>
-#include <QSplitter>
 #include <QStandardPaths>
 #include <QTreeView>
 #include <QUrl>
@@ -54,9 +53,8 @@ void let_typing_replace_selection(QFileDialog& dialog) {
 void make_room_for_names(QFileDialog& dialog) {
     if (auto* const files = dialog.findChild<QTreeView*>())
         files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    if (const auto* const splitter = dialog.findChild<QSplitter*>())
-        if (auto* const side_bar = qobject_cast<QListView*>(splitter->widget(0)))
-            side_bar->setMinimumWidth(side_bar->sizeHintForColumn(0) + 2 * side_bar->frameWidth());
+    if (auto* const side_bar = dialog.findChild<QListView*>("sidebar"))
+        side_bar->setMinimumWidth(side_bar->sizeHintForColumn(0) + 2 * side_bar->frameWidth());
 }
 
 // The path of the file that was chosen. Qt takes quotation marks in a name for those around several
@@ -99,7 +97,7 @@ std::optional<QString> ask_for_file(QWidget& parent, QFileDialog::AcceptMode mod
     dialog.selectFile(question.name);
     let_typing_replace_selection(dialog);
     make_room_for_names(dialog);
-    dialog.resize(dialog.sizeHint().boundedTo(room_on(*parent.screen())));
+    dialog.resize(dialog.sizeHint().boundedTo(parent.size())); // which fits on the screen
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return QDir::cleanPath(chosen_in(dialog));
@@ -117,17 +115,12 @@ QString breakable(const QString& text, const QFontMetrics& metrics, int width) {
 }
 
 // A text and a row of buttons, of which the first is the default. Qt's own message box keeps room
-// for an icon that is not there.
-class MessageBox : public QDialog {
+// for an icon that is not there, and copies the breaks of a long path with its text.
+class MessageBox : public QDialog, public Spoken {
 public:
     MessageBox(QWidget& parent, const QString& title, const QString& text,
                const QStringList& captions)
         : QDialog(&parent), text_(text) {
-        // The same function is installed once, however often.
-        QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
-            auto* const box = dynamic_cast<MessageBox*>(object);
-            return box != nullptr ? new QAccessibleWidget(box, QAccessible::AlertMessage) : nullptr;
-        });
         setWindowTitle(title);
         auto* const column = new QVBoxLayout(this);
         column->setSizeConstraint(QLayout::SetFixedSize);
@@ -146,6 +139,10 @@ public:
         column->addWidget(row);
         new QShortcut(QKeySequence::Copy, this,
                       [this] { QGuiApplication::clipboard()->setText(text_); });
+    }
+
+    QAccessibleInterface* new_accessible() override {
+        return new QAccessibleWidget(this, QAccessible::AlertMessage);
     }
 
 private:

@@ -23,17 +23,15 @@ void Slider::set_track(const QColor& first, const QColor& last) {
 }
 
 bool Slider::event(QEvent* event) {
-    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::WindowBlocked)
-        give_up_drag();
+    // Qt would take the pending position for the number now, or go on with the drag later. Nothing
+    // but a release makes it forget what was pressed.
+    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::WindowBlocked) {
+        setSliderPosition(value());
+        QMouseEvent release(QEvent::MouseButtonRelease, {}, {}, Qt::LeftButton, Qt::NoButton,
+                            Qt::NoModifier);
+        mouseReleaseEvent(&release);
+    }
     return QScrollBar::event(event);
-}
-
-// Qt would take the pending position for the number now, or go on with the drag later.
-void Slider::give_up_drag() {
-    setSliderPosition(value());
-    QMouseEvent release(QEvent::MouseButtonRelease, {}, {}, Qt::LeftButton, Qt::NoButton,
-                        Qt::NoModifier);
-    mouseReleaseEvent(&release);
 }
 
 // Where the middle of the thumb stands at a number, the track has the number's colour.

@@ -23,8 +23,6 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void give_up_drag();
-
     QColor first_, last_; // of the track
     int turned_ = 0;      // how far the wheel is past its last full notch, in eighths of a degree
 };

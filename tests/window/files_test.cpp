@@ -146,7 +146,6 @@ TEST_F(Files, OfOthersAreLeftWholeUnlessTheUserSaysOverwrite) {
 
 TEST_F(Files, AreChosenWhereTheUserMayWrite) {
     CommonDialog dialog(user.dialogs());
-    dialog.CancelError = true;
     dialog.InitDir = "/no/such/folder";
     user.path = "a.bmp";
     dialog.ShowSave();

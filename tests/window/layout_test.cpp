@@ -13,11 +13,16 @@ protected:
     }
 
     void click_at(QPointF point) {
-        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, point, window.mapToGlobal(point), Qt::LeftButton,
-                              Qt::LeftButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(window.windowHandle(), &event);
-        }
+        mouse_at(point, {QEvent::MouseButtonPress, QEvent::MouseButtonRelease});
+    }
+
+    // Of a cell, after the pointer has rested there. Qt asks for it at a whole pixel.
+    QString tooltip_at(QPointF point, CellArray& cells) {
+        mouse_at(point, {QEvent::MouseMove});
+        const QPoint pixel = point.toPoint();
+        QHelpEvent rest(QEvent::ToolTip, cells.mapFrom(&window, pixel), window.mapToGlobal(pixel));
+        QCoreApplication::sendEvent(&cells, &rest);
+        return QToolTip::text();
     }
 };
 
@@ -58,13 +63,12 @@ TEST_F(Layout, TabGoesThroughAllControlsInOrder) {
         order.insert(16 + i, QString("color(%1)").arg(i));
     for (auto* control : window.findChildren<QWidget*>())
         control->setEnabled(true);
-    QStringList spoken;
-    QEnterEvent crossed({}, {}, {}); // by the mouse
+    QEnterEvent crossed({}, {}, {}); // by the mouse, after which its text can be marked
     QCoreApplication::sendEvent(&find("Text2"), &crossed);
+    QStringList spoken;
     for (const QString& name : order) {
         EXPECT_EQ(window.focusWidget()->objectName(), name);
-        const auto* control = QAccessible::queryAccessibleInterface(window.focusWidget());
-        spoken << control->text(QAccessible::Name) + control->text(QAccessible::Description);
+        spoken << heard(name).text(QAccessible::Name) + heard(name).text(QAccessible::Description);
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     }
     EXPECT_EQ(spoken[0] + spoken[4], "Start, degrees CelsiusblankRed");
@@ -80,12 +84,25 @@ TEST_F(Layout, EachPixelOfTheScreenBelongsToTheCellThatItShows) {
     const double pixel = 1 / window.devicePixelRatioF();
     // From 4 pixels before to 4 behind, which are whole device pixels at every quarter.
     for (int i = 0; i * pixel < red.width() + 8; ++i) {
-        const double x = red.left() - 4 + (i + 0.5) * pixel;
-        const bool within = x > red.left() && x < red.right();
-        EXPECT_EQ(colour_at({x, red.top() + 5.5}), within ? Qt::red : Qt::black) << x;
-        click_at({x, red.top() + 5.5});
-        EXPECT_EQ(text("Text1"), within ? "-109.5" : x < red.left() ? "-110.0" : "-109.0") << x;
+        const QPointF point(red.left() - 4 + (i + 0.5) * pixel, red.top() + 5.5);
+        const int cell = point.x() < red.left() ? 0 : point.x() < red.right() ? 1 : 2;
+        EXPECT_EQ(colour_at(point), cell == 1 ? Qt::red : Qt::black) << point.x();
+        EXPECT_TRUE(tooltip_at(point, thermal()).startsWith(QString("(%1)").arg(cell + 1)))
+            << point.x();
+        click_at(point);
+        EXPECT_EQ(text("Text1"), (QStringList{"-110.0", "-109.5", "-109.0"})[cell]) << point.x();
     }
+}
+
+TEST_F(Layout, ATooltipStandsAtItsCellAndGoesWithIt) {
+    const QPoint point = thermal().mapTo(&window, place_in(thermal(), "50"));
+    EXPECT_EQ(tooltip_at(point, thermal()), "(51) -85.0Celcius / -121Farenheit");
+    QWidgetList shown = QApplication::topLevelWidgets();
+    shown.removeIf([](QWidget* other) { return !other->inherits("QTipLabel"); });
+    EXPECT_LT((shown.value(0)->pos() - window.mapToGlobal(point)).manhattanLength(), 50);
+    tooltip_at(point, thermal());
+    mouse_at(point + QPoint(20, 0), {QEvent::MouseMove});
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 2000));
 }
 
 TEST_F(Layout, CellsLieOverArrowsAndUnderButtons) {

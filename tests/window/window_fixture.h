@@ -78,36 +78,54 @@ protected:
     Slider& brightness() { return find<Slider>("HScroll4"); }
     QColor swatch() { return find<Swatch>("sample").colour(); }
     QImage preview() { return find<PictureBox>("Picture1").image(); }
-
-    void press(const QKeySequence& keys) { QTest::keySequence(window.focusWidget(), keys); }
-    static QPoint inside(const CellArray& cells, int cell) { // of the window
-        return cells.pos() + cells.cell_box(cell).topLeft() + QPoint(3, 5);
+    QAccessibleInterface& heard(const QString& control) {
+        return *QAccessible::queryAccessibleInterface(&find(control));
     }
 
-    // Does what a user does, step by step: "click Command1, press Text1 Ctrl+End" or, with a button
-    // of the mouse, "left thermal_char 220"; "double" is a double click with the left one. "hold"
-    // presses without release.
+    // To what a windowing system hands it.
+    static void mouse(QTest::MouseAction action, QWidget& control, QPoint point,
+                      Qt::MouseButton button = Qt::LeftButton) {
+        QWidget& native = control.windowHandle() ? control : *control.nativeParentWidget();
+        QTest::mouseEvent(action, native.windowHandle(), button, {}, control.mapTo(&native, point));
+    }
+    // At places between whole pixels, too.
+    void mouse_at(QPointF point, std::initializer_list<QEvent::Type> does) {
+        for (const auto type : does) {
+            const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+            QMouseEvent event(type, point, window.mapToGlobal(point), button, button, {});
+            QCoreApplication::sendEvent(window.windowHandle(), &event);
+        }
+    }
+    void press(const QKeySequence& keys) { QTest::keySequence(window.focusWidget(), keys); }
+
+    // In a control: the middle, or that of a cell; half a cell on is below it, between two rows.
+    static QPoint place_in(const QWidget& control, const QString& cell) {
+        const auto* cells = qobject_cast<const CellArray*>(&control);
+        return cells == nullptr ? control.rect().center()
+                                : cells->cell_box(cell.section('.', 0, 0).toInt()).topLeft() +
+                                      QPoint(3, cell.endsWith(".5") ? 25 : 5);
+    }
+
+    // Does what a user does, step by step: "press Text1 Ctrl+End, click Command1", or on a cell
+    // with a button of the mouse, "left thermal_char 220"; "down" and "up" are halves of "left".
     void act(const QString& steps) {
+        using enum QTest::MouseAction;
+        const QHash<QString, std::pair<QTest::MouseAction, Qt::MouseButton>> mouse_verbs{
+            {"click", {MouseClick, Qt::LeftButton}},   {"left", {MouseClick, Qt::LeftButton}},
+            {"right", {MouseClick, Qt::RightButton}},  {"middle", {MouseClick, Qt::MiddleButton}},
+            {"double", {MouseDClick, Qt::LeftButton}}, {"down", {MousePress, Qt::LeftButton}},
+            {"up", {MouseRelease, Qt::LeftButton}}};
         for (const QString& step : steps.split(", ")) {
             const QStringList words = step.split(' ');
-            auto& control = find(words[1]);
-            const auto button = words[0] == "right"    ? Qt::RightButton
-                                : words[0] == "middle" ? Qt::MiddleButton
-                                                       : Qt::LeftButton;
+            QWidget& control = find(words[1]);
             if (words[0] == "press") {
                 control.setFocus();
                 press(QKeySequence(words[2]));
-            } else if (words[0] == "click") {
-                QTest::mouseClick(&control, button);
-            } else if (words[0] == "hold") { // near the end, where a slider has an arrow
-                QTest::mousePress(&control, button, {},
-                                  control.rect().bottomRight() - QPoint(4, 8));
-            } else {
-                const QPoint point = inside(find<CellArray>(words[1]), words[2].toInt());
-                QTest::mouseClick(window.windowHandle(), button, {}, point);
-                if (words[0] == "double")
-                    QTest::mouseDClick(window.windowHandle(), button, {}, point);
-            }
+            } else if (mouse_verbs.contains(words[0])) {
+                const auto& [action, button] = mouse_verbs[words[0]];
+                mouse(action, control, place_in(control, words.value(2)), button);
+            } else
+                FAIL() << "nobody can " << step.toStdString();
         }
     }
 

@@ -1,7 +1,8 @@
-#include "widgets/held_enter.h"
+#include "widgets/false_repeats.h"
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPointer>
 
 namespace cirrava {
 
@@ -11,26 +12,29 @@ bool is_enter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-class HeldEnterFilter : public QObject {
+class FalseRepeats : public QObject {
 public:
     using QObject::QObject;
 
+    // Each event comes to a window first, then to a control in it.
     bool eventFilter(QObject* object, QEvent* event) override {
-        if (!object->isWindowType()) // each event comes to a window first
-            return false;
-        const auto* const key = dynamic_cast<const QKeyEvent*>(event);
-        if (event->type() == QEvent::MouseButtonPress)
-            enter_was_last_ = false;
-        if (event->type() == QEvent::KeyRelease && is_enter(*key))
-            released_ = key->timestamp();
-        if (event->type() != QEvent::KeyPress)
-            return false;
-        const bool ignored = is_held(*key);
-        enter_was_last_ = is_enter(*key);
-        return ignored;
+        return object->isWindowType() ? is_held_enter(*event) : is_split(*object, *event);
     }
 
 private:
+    bool is_held_enter(const QEvent& event) {
+        const auto* const key = dynamic_cast<const QKeyEvent*>(&event);
+        if (event.type() == QEvent::MouseButtonPress)
+            enter_was_last_ = false;
+        if (event.type() == QEvent::KeyRelease && is_enter(*key))
+            released_ = key->timestamp();
+        if (event.type() != QEvent::KeyPress)
+            return false;
+        const bool held = is_held(*key);
+        enter_was_last_ = is_enter(*key);
+        return held;
+    }
+
     // `isAutoRepeat` alone is not enough: where a window has just opened, Qt may report a held key
     // as released and pressed anew in one instant, and a held Enter wrote the file each time. Where
     // a window has just closed, Qt may miss the release and report the next press as a repetition;
@@ -41,14 +45,22 @@ private:
         return is_enter(press) && enter_was_last_ && repeats;
     }
 
+    // A press goes from a control on to what that lies in, until one takes it.
+    bool is_split(QObject& control, const QEvent& event) {
+        if (event.type() == QEvent::MouseButtonPress)
+            pressed_ = &control;
+        return event.type() == QEvent::MouseButtonDblClick && pressed_ != &control;
+    }
+
     bool enter_was_last_ = false; // of all that was pressed
     quint64 released_ = 0;        // the instant when Enter was released; 0 is none
+    QPointer<QObject> pressed_;   // what took the last press of a mouse button, while it exists
 };
 
 } // namespace
 
-void ignore_held_enter(QApplication& application) {
-    application.installEventFilter(new HeldEnterFilter(&application)); // which owns it
+void ignore_false_repeats(QApplication& application) {
+    application.installEventFilter(new FalseRepeats(&application)); // which owns it
 }
 
 } // namespace cirrava
