@@ -21,10 +21,7 @@ load_palette() {
 
 # Opens the window and loads the three palettes.
 start() {
-    "$program" &
-    program_id=$!
-    in_window "Cirrava PAL"
-    window=$(xdotool getactivewindow)
+    start_program "$program"
     load_palette thermal.bmp
     thermal_cell 319 see 601010
     load_palette sea.bmp
@@ -85,5 +82,5 @@ hvc_cell 70 see fa0000
 take hvc-range 0 5640 14415 1260
 take hvc-table 12500 1440 1915 5040
 click "${quit[@]}"
-wait "$program_id"
+program_has_ended
 rm -r "$(realpath "$folder")" "$folder"

@@ -67,6 +67,17 @@ is_active() { [[ $(xdotool getactivewindow getwindowname) == "$1" ]]; }
 # in_window TITLE: waits until the window of that title has the keyboard.
 in_window() { wait_until is_active "$1"; }
 
+# start_program COMMAND...: starts the program and waits for its window.
+start_program() {
+    "$@" &
+    program_id=$!
+    started+=("$program_id")
+    in_window "Cirrava PAL"
+    window=$(xdotool getactivewindow)
+}
+
+program_has_ended() { wait "$program_id" || fail "the program ended with status $?"; }
+
 scale_factor=1 # of Qt, as in QT_SCALE_FACTOR
 
 # pixels TWIPS: on a screen of 96 dots per inch.

@@ -46,6 +46,18 @@ void check_registry() {
     }
 }
 
+void check_registered_program() {
+    std::optional<RegistryValue> program;
+    const RegistryReader registry = [&](auto, const std::string& key, const auto&) {
+        return key == program_key ? program : RegistryValue{string_value, "Z:\\none"};
+    };
+    expect(registered_program(registry).empty(), "no program");
+    program = {REG_BINARY, "bytes"};
+    expect(registered_program(registry).empty(), "no text");
+    program = {string_value, std::string("Z:\\none.exe") + '\0'};
+    expect(registered_program(registry) == "Z:\\none.exe", "a program, without a look");
+}
+
 // The number of the failure, or 0.
 int failure_of_opening(const std::filesystem::path& path, FileAccess access) {
     try {
@@ -82,6 +94,7 @@ void check_file_names() {
 
 int main() {
     check_registry();
+    check_registered_program();
     check_file_names();
     return all_good ? 0 : 1;
 }

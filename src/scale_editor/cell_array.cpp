@@ -106,7 +106,7 @@ bool CellArray::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip || hovered_ < 0)
         return QWidget::event(event);
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                       to_qt(tooltip_text(kind_, hovered_)), this, strip(hovered_));
+                       to_qt(tooltip_text(kind_, hovered_)), this);
     return true;
 }
 
@@ -149,9 +149,12 @@ QList<QRectF> CellArray::rows_of(const Range& cells) const {
     return rows;
 }
 
-// The place that comes with a tooltip's event is rounded.
+// The places at which Qt shows and hides a tooltip by itself are rounded.
 void CellArray::mouseMoveEvent(QMouseEvent* event) {
-    hovered_ = cell_under(*event);
+    if (const int cell = cell_under(*event); cell != hovered_) {
+        hovered_ = cell;
+        QToolTip::hideText();
+    }
 }
 
 // While a button that was pressed over a cell is held, Qt sends the others here too, from wherever

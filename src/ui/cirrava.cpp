@@ -10,7 +10,6 @@
 #include "ui/placer.h"
 #include "widgets/in_reach.h"
 
-#include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QShortcut>
 #include <utility>
@@ -29,11 +28,6 @@ Cirrava::Cirrava(Dialogs dialogs) : cdlopen_(std::move(dialogs)) {
     connect_windows();
     connect_keys();
     fit_captions(*this);
-}
-
-// A QMainWindow would be known as a window by itself, but take a third of a MiB more.
-QAccessibleInterface* Cirrava::new_accessible() {
-    return new QAccessibleWidget(this, QAccessible::Window);
 }
 
 void Cirrava::connect_scales() {

@@ -1,6 +1,5 @@
 #include "platform/binary_file.h"
 #include "platform/failure.h"
-#include "platform/registry.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -47,18 +46,6 @@ TEST(BinaryFile, FailuresToOpenHaveTheirNumbers) {
     };
     EXPECT_EXIT(check_as_nobody(), testing::ExitedWithCode(0), "");
     std::filesystem::remove_all(folder);
-}
-
-TEST(Registry, NamesTheProgram) {
-    std::optional<RegistryValue> program;
-    const RegistryReader registry = [&](auto, const std::string& key, const auto&) {
-        return key == program_key ? program : RegistryValue{string_value, "/no/such/folder"};
-    };
-    EXPECT_EQ(registered_program(registry), "");
-    program = {3, "bytes"}; // no string
-    EXPECT_EQ(registered_program(registry), "");
-    program = {string_value, std::string("/no/such/program") + '\0'}; // without a look
-    EXPECT_EQ(registered_program(registry), "/no/such/program");
 }
 
 } // namespace cirrava

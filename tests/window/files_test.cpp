@@ -1,3 +1,4 @@
+#include "approved_picture.h"
 #include "window_fixture.h"
 
 #include "scale_editor/qt_values.h"
@@ -96,12 +97,12 @@ TEST_F(Files, DamagedOnesAreToldAndLoadAsFarAsTheyGo) {
 TEST_F(Files, ThatFailChangeNothingAndAreClosed) {
     paint("Label3", 5, 50, 20);
     EXPECT_EQ(QFileInfo("~~temphvc.bmp").size(), 76854);
-    const QImage before = window.grab().toImage();
+    const QImage before = on_screen(window);
     EXPECT_EQ(seen_after(Qt::Key_O, folder.path()).last(), "Error # 75 Cannot Read File");
     EXPECT_EQ(seen_after(Qt::Key_O, QChar(0xD800)).last(), "Error # 52 Cannot Read File");
     EXPECT_EQ(seen_after(Qt::Key_O, CORPUS "/text.bmp").size(), 2);
     seen_after(Qt::Key_S, folder.path());
-    EXPECT_TRUE(window.grab().toImage() == before);
+    EXPECT_TRUE(on_screen(window) == before);
     for (const QFileInfo& open : QDir("/proc/self/fd").entryInfoList())
         EXPECT_FALSE(open.symLinkTarget().endsWith(".bmp"));
 }
@@ -134,6 +135,12 @@ TEST_F(Files, OfOthersAreLeftWholeUnlessTheUserSaysOverwrite) {
     EXPECT_EQ(seen_after(Qt::Key_S, folder.filePath("a.bmp")).mid(1),
               (QStringList{"Ready to create: Write HERE/a.bmp?",
                            "Ready to create: OVERWRITE HERE/a.bmp?"}));
+    user.meanwhile = [] {};
+    QFile::copy("a.bmp", ".a.bmp");
+    EXPECT_EQ(::symlink("none.bmp", "b.bmp"), 0);
+    for (const QString hidden : {".a.bmp", "b.bmp"}) // do not count as existing
+        EXPECT_EQ(seen_after(Qt::Key_S, folder.filePath(hidden)).mid(1),
+                  QStringList("Ready to create: Write HERE/" + hidden + "?"));
     act("click hvc_butt");
     for (const auto link_to : {::link, ::symlink}) {
         QFile::remove("~~temphvc.bmp");

@@ -10,5 +10,6 @@ int main(int argc, char* argv[]) {
     cirrava::set_up_process();
     QApplication application(argc, argv);
     cirrava::set_up_application(application);
+    QApplication::setCursorFlashTime(0); // for pictures
     return RUN_ALL_TESTS();
 }

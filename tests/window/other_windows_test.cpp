@@ -1,3 +1,4 @@
+#include "approved_picture.h"
 #include "window_fixture.h"
 
 namespace cirrava {
@@ -5,15 +6,17 @@ namespace cirrava {
 using OtherWindows = WindowTest;
 
 TEST_F(OtherWindows, LeaveTheMainWindowAsItWas) {
-    for (const auto& [title, open] : {std::pair("Cirrava PAL How To", "click Command4"),
-                                      {"About HVC Palette", "click hvc_help"},
-                                      {"About CirravaPal", "press Text1 F3, click Command3"}}) {
-        in_next<QDialog>([this, title](QDialog& dialog) {
+    const std::tuple<const char*, const char*, const char*> windows[]{
+        {"Cirrava PAL How To", "click Command4", "how_to"},
+        {"About HVC Palette", "click hvc_help", "hvc_help"},
+        {"About CirravaPal", "press Text1 F3, click Command3", "about"}};
+    for (const auto& [title, open, picture] : windows) {
+        in_next<QDialog>([&, title = title, picture = picture](QDialog& dialog) {
             EXPECT_EQ(dialog.windowTitle(), title);
             EXPECT_EQ(dialog.minimumSize(), dialog.maximumSize());
+            expect_as_approved(dialog, picture);
             // Other programs get at what is behind it.
-            for (const char* preset : {"color(8)", "color(9)"})
-                find<Button>(preset).animateClick();
+            find<Button>("color(9)").animateClick();
             find<Slider>("HScroll2").setValue(7);
             heard("Label2").child(5)->actionInterface()->doAction("mark as start");
         });
@@ -29,14 +32,12 @@ TEST_F(OtherWindows, LeaveTheMainWindowAsItWas) {
 }
 
 TEST_F(OtherWindows, HelpOpensAtTheTopAndCannotBeChanged) {
-    for (const auto& [open, words] :
-         {std::pair("click Command4", "In Future versions"), {"click hvc_help", "dimensional"}}) {
-        in_next<QDialog>([words](QDialog& help) {
+    for (const char* open : {"click Command4", "click hvc_help"}) {
+        in_next<QDialog>([](QDialog& help) {
             auto& box = find_in<QPlainTextEdit>(help, "Text1");
             EXPECT_TRUE(box.hasFocus());
             EXPECT_EQ(box.verticalScrollBar()->value(), 0);
             const QString before = box.toPlainText();
-            EXPECT_TRUE(before.contains(words));
             for (const Qt::Key key : {Qt::Key_A, Qt::Key_Delete, Qt::Key_Return, Qt::Key_Escape})
                 QTest::keyClick(&box, key);
             EXPECT_TRUE(help.isVisible());
@@ -51,38 +52,33 @@ TEST_F(OtherWindows, HelpOpensAtTheTopAndCannotBeChanged) {
     }
 }
 
-TEST_F(OtherWindows, AboutClosesByEscAndEnter) {
-    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
-        in_next<QDialog>([key](QDialog& about) {
-            const auto text = [&](const char* name) { return find_in<QLabel>(about, name).text(); };
-            EXPECT_EQ(text("lblVersion") + text("Label1"), "Version 2.1.0Quillmark");
-            EXPECT_TRUE(text("lblDescription").contains("requirements,  in Thermal"));
-            EXPECT_TRUE(text("lblDisclaimer").endsWith("Good luck"));
-            EXPECT_EQ(about.geometry().topLeft(), QPoint(156, 129));
-            QTest::keyClick(about.focusWidget(), key);
-            EXPECT_FALSE(about.isVisible());
-        });
-        act("click Command3");
-    }
+TEST_F(OtherWindows, AboutTellsTheVersionAndClosesByEnter) {
+    in_next<QDialog>([](QDialog& about) {
+        const auto text = [&](const char* name) { return find_in<QLabel>(about, name).text(); };
+        EXPECT_EQ(text("lblVersion") + text("Label1"), "Version 2.1.0Quillmark");
+        EXPECT_TRUE(text("lblDescription").contains("requirements,  in Thermal"));
+        EXPECT_EQ(about.geometry().topLeft(), QPoint(156, 129));
+        QTest::keyClick(about.focusWidget(), Qt::Key_Return);
+        EXPECT_FALSE(about.isVisible());
+    });
+    act("click Command3");
 }
 
 TEST_F(OtherWindows, SystemInfoStartsTheDesktopsProgramOrSaysThatThereIsNone) {
     const QByteArray search_path = qgetenv("PATH");
     qputenv("PATH", folder.path().toUtf8());
     in_next<QDialog>([](QDialog& about) {
-        in_next<QDialog>([&about](QDialog& box) {
-            find_in<Button>(about, "cmdOK").animateClick();
-            EXPECT_FALSE(QTest::qWaitFor([&about] { return !about.isVisible(); }, 200));
+        in_next<QDialog>([](QDialog& box) {
             EXPECT_EQ(box.findChild<QLabel*>()->text(),
                       "System Information Is Unavailable At This Time");
         });
-        QTest::keyClick(about.focusWidget(), Qt::Key_Tab);
-        QTest::keyClick(about.focusWidget(), Qt::Key_Return);
+        auto& system_info = find_in<Button>(about, "cmdSysInfo");
+        QTest::keyClick(&system_info, Qt::Key_Return);
         QFile program("mate-system-monitor");
-        EXPECT_TRUE(program.open(QIODevice::WriteOnly, QFile::ReadOwner | QFile::ExeOwner) &&
-                    program.write("#!/bin/sh\n>started") > 0);
+        program.open(QIODevice::WriteOnly, QFile::ReadOwner | QFile::ExeOwner);
+        program.write("#!/bin/sh\n>started");
         program.close();
-        find_in<Button>(about, "cmdSysInfo").animateClick();
+        QTest::keyClick(&system_info, Qt::Key_Return);
         EXPECT_TRUE(QTest::qWaitFor([] { return QFile::exists("started"); }));
     });
     act("click Command3");
@@ -124,7 +120,8 @@ TEST_F(RealDialogs, FilesAreChosenByNameAndNotMovedInThem) {
                 EXPECT_EQ(dialog.iconProvider()->type(QFileInfo("/bin/sh")),
                           dialog.iconProvider()->type(QFileInfo("none")));
                 EXPECT_EQ(dialog.nameFilters(), (QStringList{"*.bmp", "All files (*)"}));
-                EXPECT_TRUE(dialog.sidebarUrls().contains(QUrl::fromLocalFile(QDir::homePath())));
+                EXPECT_TRUE(dialog.sidebarUrls().contains(
+                    QUrl::fromLocalFile(QCoreApplication::applicationDirPath())));
                 EXPECT_EQ(dialog.selectedFiles(), QStringList(folder.filePath("a.bmp")));
                 dialog.findChild<QLineEdit*>()->setText(typed);
                 QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
@@ -139,16 +136,15 @@ TEST_F(RealDialogs, MessagesShowPlainTextAndYesIsTheDefault) {
         in_next<QDialog>([&](QDialog& box) {
             QTest::keySequence(&box, QKeySequence::Copy);
             EXPECT_EQ(QApplication::clipboard()->text(), text);
-            const auto& label = *box.findChild<QLabel*>();
-            EXPECT_GE(label.height(), label.heightForWidth(label.width()));
-            EXPECT_EQ(label.accessibleName(), text);
-            EXPECT_EQ(label.textFormat(), Qt::PlainText);
+            EXPECT_EQ(box.findChild<QLabel*>()->accessibleName(), text);
             EXPECT_LT(box.width(), box.screen()->availableGeometry().width());
             QTest::keyClick(&box, key);
             EXPECT_FALSE(box.isVisible());
         });
         EXPECT_EQ(dialogs.ask(text, ""), key == Qt::Key_Return || key == Qt::Key_Y);
     }
+    in_next<QDialog>([](QDialog& box) { expect_as_approved(box, "question"); });
+    dialogs.ask("Write /<b>a</b>.bmp?", "Ready to create");
     in_next<QDialog>([](QDialog& box) {
         EXPECT_EQ(box.windowTitle(), "CirravaPal");
         EXPECT_EQ(QAccessible::queryAccessibleInterface(&box)->role(), QAccessible::AlertMessage);

@@ -22,20 +22,24 @@ struct User {
 
     Dialogs dialogs() {
         const auto choose_file = [this](const FileQuestion& asked) {
-            saw << asked.title + ": " + asked.name + " of " + asked.filter + " in " + asked.folder;
-            return path;
+            return answer(asked.title + ": " + asked.name + " of " + asked.filter + " in " +
+                              asked.folder,
+                          path);
         };
-        const auto choose_colour = [this](const QColor& initial) {
-            saw << initial.name();
-            return colour;
-        };
-        const auto ask = [this](const QString& text, const QString& title) {
-            saw << title + ": " + text;
-            meanwhile();
-            return yes;
-        };
-        const auto tell = [this](const QString& text) { saw << text; };
-        return {choose_file, choose_file, choose_colour, ask, tell};
+        return {choose_file, choose_file,
+                [this](const QColor& initial) { return answer(initial.name(), colour); },
+                [this](const QString& text, const QString& title) {
+                    answer(title + ": " + text, yes);
+                    meanwhile();
+                    return yes;
+                },
+                [this](const QString& text) { saw << text; }};
+    }
+
+private:
+    template <class Answer> Answer answer(const QString& question, const Answer& given) {
+        saw << question;
+        return given;
     }
 };
 
