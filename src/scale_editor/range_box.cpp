@@ -59,17 +59,17 @@ QAccessibleInterface* RangeBox::new_accessible() {
 }
 
 void RangeBox::keyPressEvent(QKeyEvent* event) {
-    constexpr std::pair<int, int> steps[]{{Qt::Key_Up, 1},      {Qt::Key_Right, 1},
-                                          {Qt::Key_Down, -1},   {Qt::Key_Left, -1},
-                                          {Qt::Key_PageUp, 10}, {Qt::Key_PageDown, -10}};
+    constexpr std::pair<Qt::Key, int> steps[]{{Qt::Key_Up, 1},      {Qt::Key_Right, 1},
+                                              {Qt::Key_Down, -1},   {Qt::Key_Left, -1},
+                                              {Qt::Key_PageUp, 10}, {Qt::Key_PageDown, -10}};
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         return emit colour_asked();
-    const int pressed = event->keyCombination().toCombined() & ~Qt::KeypadModifier;
+    const QKeyCombination pressed(event->modifiers() & ~Qt::KeypadModifier, Qt::Key(event->key()));
     for (const auto& [key, cells] : steps)
-        if (pressed == key)
+        if (pressed == QKeyCombination(key))
             return emit stepped(cells);
     for (const auto key : {Qt::Key_Home, Qt::Key_End})
-        if (pressed == (Qt::CTRL | key).toCombined())
+        if (pressed == (Qt::CTRL | key))
             return emit sent_to_limit(key == Qt::Key_End);
     TextBox::keyPressEvent(event);
 }

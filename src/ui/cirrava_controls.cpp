@@ -41,7 +41,7 @@ constexpr std::array<QRgb, 48> preset_colours{
 };
 
 // The name of a member of a control array.
-QString member(const QString& array, int index) {
+QString member(const QString& array, std::size_t index) {
     return QString("%1(%2)").arg(array).arg(index);
 }
 
@@ -128,9 +128,9 @@ CirravaControls::CirravaControls(QWidget& window) : Placer(window, "Cirrava PAL"
     button(pickcolor, "pickcolor", "Advanced Color Picker", {10440, 7680, 1095, 735}, yellow);
     button(Command2, "Command2", "Apply Color", {13200, 7800, 1095, 495}, narrow_bold);
     control(sample, "sample", "Current colour", {11640, 7560, 1575, 975});
-    for (int i = 0; i < std::ssize(color); ++i) {
+    for (std::size_t i = 0; i < color.size(); ++i) {
         const QRgb colour = preset_colours[i];
-        const int slot = i < 8 || i % 8 > 1 ? i : i % 8 == 0 ? i + 1 : i - 1;
+        const int slot = static_cast<int>(i < 8 || i % 8 > 1 ? i : i % 8 == 0 ? i + 1 : i - 1);
         button(color[i], member("color", i), "", {2040 + 240 * slot, 7200, 240, 240},
                {.ground = colour});
         color[i].resize(color[i].size() + QSize(1, 1)); // neighbours share an edge at every size
@@ -163,11 +163,11 @@ CirravaControls::CirravaControls(QWidget& window) : Placer(window, "Cirrava PAL"
     Text1.setFocus();
 }
 
-void CirravaControls::ticks(std::span<QLabel> labels, const QString& name, int i, ScaleKind kind,
-                            int top, int width, std::initializer_list<int> lefts) {
+void CirravaControls::ticks(std::span<QLabel> labels, const QString& name, std::size_t i,
+                            ScaleKind kind, int top, int width, std::initializer_list<int> lefts) {
     for (const int left : lefts) {
-        const QString text = to_qt(tick_text(kind, std::min(20 * i, cell_count(kind) - 1)));
-        label(labels[i], member(name, i), text, {left, top, width, 255});
+        const int cell = std::min(20 * static_cast<int>(i), cell_count(kind) - 1);
+        label(labels[i], member(name, i), to_qt(tick_text(kind, cell)), {left, top, width, 255});
         labels[i].setContentsMargins(0, 2, 0, 0); // off the line under the cells
         ++i;
     }

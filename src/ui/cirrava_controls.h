@@ -74,8 +74,8 @@ struct CirravaControls : private Placer {
 private:
     // Places labels of an array from label `i` on. Label i names cell 20 * i or, where the scale
     // has no such cell, the last one.
-    void ticks(std::span<QLabel> labels, const QString& name, int i, ScaleKind kind, int top,
-               int width, std::initializer_list<int> lefts);
+    void ticks(std::span<QLabel> labels, const QString& name, std::size_t i, ScaleKind kind,
+               int top, int width, std::initializer_list<int> lefts);
     void box(TextBox& box, const QString& name, const QString& spoken, const TwipRect& rect);
     void cells(CellArray& cells, const QString& name, const QString& spoken, int left, int top);
 };

@@ -47,13 +47,13 @@ public:
     // What holds whatever was done before.
     void expect_order() {
         const auto working = QStringList{"Thermal", "Sea", "HVC"}.indexOf(text("Label5"));
+        const QList<int> channels{swatch().red(), swatch().green(), swatch().blue()};
         for (const int i : {0, 1, 2}) { // scale and channel
             const QString scale = QStringList{"thermal", "Sea", "hvc"}[i];
             ASSERT_EQ(find<Button>(scale + "_butt").face() == QColor(Qt::green), working == i);
             ASSERT_EQ(find(scale.toLower() + "_command").isEnabled(), working == i);
-            const int channel = std::array{swatch().red(), swatch().green(), swatch().blue()}[i];
-            ASSERT_EQ(find<Slider>(QString("HScroll%1").arg(1 + i)).value(), channel);
-            ASSERT_EQ(text(QString("Label%1").arg(15 + i)), QString::number(channel));
+            ASSERT_EQ(find<Slider>(QString("HScroll%1").arg(1 + i)).value(), channels[i]);
+            ASSERT_EQ(text(QString("Label%1").arg(15 + i)), QString::number(channels[i]));
         }
         for (const char* only_hvc : {"Command1", "HScroll4"})
             ASSERT_EQ(find(only_hvc).isEnabled(), working == 2);
@@ -119,8 +119,9 @@ TEST_F(Editing, ARandomWalkLeavesTheWindowInOrder) {
     std::cout << "CIRRAVA_WALK_SEED=" << seed << '\n' << std::flush;
     std::mt19937 random(seed);
     const auto steps = steps_of("marking") + steps_of("colouring") + steps_of("brightening");
+    std::uniform_int_distribution<qsizetype> any(0, steps.size() - 1);
     for (int number = 0; number < 3'000; ++number) {
-        const QString& step = steps[static_cast<int>(random() % steps.size())][0];
+        const QString& step = steps[any(random)][0];
         SCOPED_TRACE(step.toStdString());
         act(step);
         ASSERT_NO_FATAL_FAILURE(expect_order());

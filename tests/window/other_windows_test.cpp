@@ -108,7 +108,7 @@ TEST_F(RealDialogs, FilesAreChosenByNameAndNotMovedInThem) {
         for (const auto& [typed, path] : {std::pair("b.bmp", "/b.bmp"),
                                           {"none/../b.bmp", "/b.bmp"},
                                           {"qu\"ote.bmp", "/qu\"ote.bmp"}}) {
-            in_next<QFileDialog>([&, typed](QFileDialog& dialog) {
+            in_next<QFileDialog>([&, typed = typed](QFileDialog& dialog) {
                 EXPECT_EQ(dialog.testOption(QFileDialog::ReadOnly),
                           dialog.acceptMode() == QFileDialog::AcceptOpen);
                 auto& files = *dialog.findChild<QTreeView*>();
