@@ -36,7 +36,8 @@ public:
     QVariant minimumStepSize() const override { return box_.cell() ? value(1) - value(0) : -1; }
 
 private:
-    double value(int cell) const { return celsius(box_.kind(), cell); }
+    // Without the noise of double arithmetic.
+    double value(int cell) const { return to_qt(celsius_text(box_.kind(), cell)).toDouble(); }
 
     RangeBox& box_;
 };
