@@ -3,7 +3,7 @@
 build_packages=(cmake fonts-liberation g++ ninja-build qt6-base-dev qt6-wayland)
 # In newer releases the narrow letters have a package of their own.
 grep --quiet 'VERSION_ID="12"' /etc/os-release || build_packages+=(fonts-liberation-sans-narrow)
-test_packages=(clang libclang-rt-dev libgtest-dev)
+test_packages=(clang libclang-rt-dev libgtest-dev python3)
 screen_packages=(at-spi2-core dbus gir1.2-atspi-2.0 imagemagick openbox python3-gi x11-utils xdotool xvfb)
 package_packages=(build-essential debhelper)
 windows_packages=(dpkg-dev g++-mingw-w64-x86-64-posix)
