@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Takes the pictures of the README from the built program. pictures.sh PROGRAM
+# Takes the pictures of the README from the built program, and that of the palettes. pictures.sh PROGRAM
 set -euo pipefail
 program=$(realpath "$1")
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -45,6 +45,23 @@ take() {
         "$(pixels "$4")x$(pixels "$5")+$((x + $(pixels "$2")))+$((y + $(pixels "$3")))" "$top/docs/$1.png"
 }
 
+# strip FILE SIZE PIXELS-A-CELL COLDEST PIXELS-A-DEGREE TEMPERATURE...: a palette, its name above and
+# temperatures below it.
+strip() {
+    local file=$1 size=$2 width=$((${2%x*} * $3)) coldest=$4 degree=$5 temperature x marks=()
+    for temperature in "${@:6}"; do
+        x=$(((temperature - coldest) * degree))
+        marks+=(-draw "rectangle $((x + 14)),88 $((x + 14)),92"
+            -annotate "$(printf %+d $((x - width / 2)))+95" "$temperature")
+    done
+    # As bare pixels: a palette does not tell its length, and without it the image reader complains.
+    tail --bytes=+55 "$top/palettes/$file" | convert -size "$size" -depth 8 bgr:- -flip \
+        -sample "${width}x64!" -background '#f0f0f0' -gravity north -splice 0x24 \
+        -extent "$((width + 28))x116" -fill '#202020' -font Liberation-Sans -pointsize 12 \
+        "${marks[@]}" -font Liberation-Sans-Bold -pointsize 13 -gravity northwest \
+        -annotate +14+5 "$file" miff:-
+}
+
 # Its name is seen on a picture. A link, since what a failed run has left must not be in the way, and
 # nobody's own folder lost.
 folder=/tmp/palettes
@@ -83,4 +100,13 @@ take hvc-range 0 5640 14415 1260
 take hvc-table 12500 1440 1915 5040
 click "${quit[@]}"
 program_has_ended
+
+for set in weather-map storms clear-to-all greys; do
+    {
+        strip $set/thermal.bmp 320x1 1 -110 2 -100 -80 -60 -40 -20 0 20 40
+        strip $set/sea.bmp 250x1 1 -10 5 -10 0 10 20 30
+        strip $set/hvc.bmp 100x256 3 -60 3 -60 -40 -20 0 20
+    } | convert miff:- +append miff:-
+done | convert miff:- -append -strip "$top/docs/palettes.png"
+
 rm -r "$(realpath "$folder")" "$folder"
