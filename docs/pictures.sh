@@ -6,16 +6,9 @@ top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$top/scripts/screen.sh"
 . "$top/scripts/points.sh"
 
-# palette WIDTH HEIGHT COLOURS...: a smooth run through the colours, coldest first.
-palette() {
-    local size="$1x$2!"
-    shift 2
-    convert "${@/#/xc:}" +append -filter triangle -resize "$size" BMP3:-
-}
-
 load_palette() {
     click "${load[@]}"
-    choose_file "Read and Load palette" "$folder/$1"
+    choose_file "Read and Load palette" "$top/palettes/weather-map/$1"
     in_window "Cirrava PAL"
 }
 
@@ -23,11 +16,11 @@ load_palette() {
 start() {
     start_program "$program"
     load_palette thermal.bmp
-    thermal_cell 319 see 601010
+    thermal_cell 319 see 7a2c30
     load_palette sea.bmp
-    sea_cell 249 see 801020
+    sea_cell 249 see 5e1b36
     load_palette hvc.bmp
-    hvc_cell 99 see c87840
+    hvc_cell 99 see be7646
     # A double click and Apply give a cell the colour it has, and bring the preview up to date.
     hvc_cell 44 click
     hvc_cell 44 click
@@ -67,11 +60,6 @@ strip() {
 folder=/tmp/palettes
 ln --symbolic --force --no-target-directory "$(mktemp --directory)" "$folder"
 cd "$folder"
-palette 320 1 '#fff' '#e8d8ff' '#b060d0' '#5030b0' '#2060e0' '#20b0f0' '#40d8c0' '#40b040' \
-    '#c8d840' '#f8e040' '#f09030' '#d03020' '#601010' >thermal.bmp
-palette 250 1 '#301060' '#4030c0' '#2080f0' '#30d0e0' '#40c870' '#d0e040' '#f8b030' '#e04020' \
-    '#801020' >sea.bmp
-palette 100 256 '#e0e0f0' '#a0b8e8' '#5088d0' '#40a880' '#60a040' '#b8a050' '#c87840' >hvc.bmp
 
 open_screen 2048x1400
 start

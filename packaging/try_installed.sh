@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Starts the installed program as a desktop would, on a private screen, and leaves it by its button.
+# Starts the installed program as a desktop would, on a private screen, loads a palette that came with it,
+# and leaves it by its button.
 # try_installed.sh FOLDER: keeps a picture of the window in FOLDER.
 set -euo pipefail
 folder=$(realpath "$1")
@@ -18,6 +19,12 @@ started+=("$program_id")
 in_window "$(value_of Name)"
 window=$(xdotool getactivewindow)
 see "${swatch[@]}" 000000
+click "${load[@]}"
+in_window "Read and Load palette"
+xdotool mousemove --window "$(xdotool getactivewindow)" 60 56 click 1 key alt+n # the side bar's first folder
+choose_file "Read and Load palette" weather-map/thermal.bmp
+in_window "$(value_of Name)"
+thermal_cell 319 see 7a2c30
 picture installed
 
 class=$(xprop -id "$window" WM_CLASS)

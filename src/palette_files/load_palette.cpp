@@ -4,6 +4,8 @@
 #include "platform/binary_file.h"
 #include "platform/failure.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
@@ -59,6 +61,14 @@ void load_palette(CommonDialog& cdlopen, const AllScales& scales, PictureBox& Pi
     } catch (const Failure& failure) {
         cdlopen.tell("Error # ", failure, " Cannot Read File");
     }
+}
+
+QString shipped_palettes() {
+    const QString program_folder = QCoreApplication::applicationDirPath();
+    for (const QString& folder : QStringList{"/palettes", "/../share/cirrava-pal/palettes"})
+        if (QDir(program_folder + folder).exists())
+            return QDir::cleanPath(program_folder + folder);
+    return {};
 }
 
 } // namespace cirrava

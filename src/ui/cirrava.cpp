@@ -1,7 +1,6 @@
 #include "ui/cirrava.h"
 
 #include "colour/pick_colour.h"
-#include "palette_files/load_palette.h"
 #include "palette_files/palette_image.h"
 #include "palette_files/save_palette.h"
 #include "scale_editor/qt_values.h"

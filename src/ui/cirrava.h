@@ -2,6 +2,7 @@
 
 #include "colour/current_colour.h"
 #include "palette_files/hvc_palette.h"
+#include "palette_files/load_palette.h"
 #include "scale_editor/palette_history.h"
 #include "scale_editor/selection.h"
 #include "ui/cirrava_controls.h"
@@ -18,7 +19,7 @@ namespace cirrava {
 // it.
 class Cirrava : public QWidget, public Spoken {
 public:
-    Cirrava() : Cirrava(qt_dialogs(*this)) {}
+    Cirrava() : Cirrava(qt_dialogs(*this, shipped_palettes())) {}
     explicit Cirrava(Dialogs dialogs);
 
     // A QMainWindow would be known as a window by itself, but take a third of a MiB more.

@@ -151,6 +151,10 @@ CirravaControls::CirravaControls(QWidget& window) : Placer(window, "Cirrava PAL"
     Picture1.set_zoom(shrink());
     Label1.setIndent(5); // off the picture
     Command2.setToolTip("Click to apply color to range selected");
+    thermal_command.setToolTip("Ctrl+S, while Thermal is chosen");
+    sea_command.setToolTip("Ctrl+S, while Sea Surface is chosen");
+    hvc_command.setToolTip("Ctrl+S, while HVC is chosen");
+    Command1.setToolTip("Marks the whole HVC scale for the brightness slider");
     QWidgetList order{&Text1,    &Text2,           &Text3,       &Text4,      &HScroll1, &HScroll2,
                       &HScroll3, &sample,          &Command2,    &Command3,   &Command4, &Command5,
                       &Command6, &thermal_command, &sea_command, &hvc_command};

@@ -33,8 +33,9 @@ void Button::timerEvent(QTimerEvent* event) {
 void Button::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QColor face = face_.isValid() ? face_ : palette().color(QPalette::Button);
+    const bool stands_out = isDefault() || (isEnabled() && underMouse());
     paint_key(painter, rect(), isDown() ? face.darker(125) : face,
-              palette().color(isDefault() ? QPalette::Highlight : QPalette::Mid),
+              palette().color(stands_out ? QPalette::Highlight : QPalette::Mid),
               isDown() || isDefault() ? 2 : 1);
     painter.setPen(palette().color(QPalette::ButtonText));
     painter.drawText(caption_box(), Qt::AlignCenter | Qt::TextDontClip | Qt::TextWordWrap, text());

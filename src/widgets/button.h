@@ -5,8 +5,8 @@
 namespace cirrava {
 
 // A push button whose flat face can have a colour of its own, with its caption wrapped and shown as
-// it is, a "&" too. Enter and Space press it. Screen readers cannot while it is behind a modal
-// window.
+// it is, a "&" too. Its edge tells of the pointer over it. Enter and Space press it. Screen readers
+// cannot while it is behind a modal window.
 class Button : public QPushButton {
     Q_OBJECT
 public:

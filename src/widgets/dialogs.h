@@ -34,8 +34,9 @@ struct Dialogs {
 };
 
 // Qt's own dialogs, in front of `parent`, which must outlive them. The file dialogs accept a name
-// whether or not such a file exists, and add no suffix.
-Dialogs qt_dialogs(QWidget& parent);
+// whether or not such a file exists, and add no suffix. That for opening offers `examples`, a
+// folder, in its side bar; none where it is empty.
+Dialogs qt_dialogs(QWidget& parent, const QString& examples = {});
 
 // The title of every message that gives none of its own.
 inline constexpr QLatin1StringView program_title("CirravaPal");

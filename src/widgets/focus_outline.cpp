@@ -20,8 +20,8 @@ void FocusOutline::paintEvent(QPaintEvent*) {
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin); // around the control
     const QRectF box = rect().adjusted(margin, margin, -margin, -margin);
     QPainter painter(this);
-    paint_edge(painter, box, Qt::white, 2);
-    paint_edge(painter, box, Qt::black);
+    paint_edge(painter, box, Qt::white, 3);
+    paint_edge(painter, box, Qt::black, 2);
 }
 
 } // namespace cirrava

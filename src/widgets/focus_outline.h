@@ -4,7 +4,7 @@
 
 namespace cirrava {
 
-// Shows which control of `window` has the focus, once keys have moved it there, by a black and a
+// Shows which control of `window` has the focus, once keys have moved it there, by two black and a
 // white line along its edge. They stand out from every colour and leave the pixels within them as
 // they are.
 class FocusOutline : public QFocusFrame {

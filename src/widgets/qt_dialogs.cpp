@@ -28,10 +28,10 @@ namespace cirrava {
 
 namespace {
 
-QList<QUrl> side_bar_folders() {
+QList<QUrl> side_bar_folders(const QString& first) {
     QList<QUrl> urls;
     for (const QString& folder :
-         {QCoreApplication::applicationDirPath(), QDir::homePath(),
+         {first, QCoreApplication::applicationDirPath(), QDir::homePath(),
           QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation), QDir::currentPath()})
         if (const QUrl url = QUrl::fromLocalFile(folder);
             QFileInfo(folder).isDir() && !urls.contains(url))
@@ -78,7 +78,7 @@ public:
 };
 
 std::optional<QString> ask_for_file(QWidget& parent, QFileDialog::AcceptMode mode,
-                                    const FileQuestion& question) {
+                                    const QString& examples, const FileQuestion& question) {
     FileKinds kinds;
     QFileDialog dialog(&parent, question.title, question.folder,
                        question.filter + ";;All files (*)");
@@ -93,7 +93,7 @@ std::optional<QString> ask_for_file(QWidget& parent, QFileDialog::AcceptMode mod
     dialog.setAcceptMode(mode);
     if (mode == QFileDialog::AcceptSave)
         dialog.setLabelText(QFileDialog::LookIn, "Save in:");
-    dialog.setSidebarUrls(side_bar_folders());
+    dialog.setSidebarUrls(side_bar_folders(examples));
     dialog.selectFile(question.name);
     let_typing_replace_selection(dialog);
     make_room_for_names(dialog);
@@ -182,10 +182,10 @@ void tell(QWidget& parent, const QString& text) {
 
 } // namespace
 
-Dialogs qt_dialogs(QWidget& parent) {
+Dialogs qt_dialogs(QWidget& parent, const QString& examples) {
     const auto in_front_of = std::ref(parent);
-    return {.open = std::bind_front(ask_for_file, in_front_of, QFileDialog::AcceptOpen),
-            .save = std::bind_front(ask_for_file, in_front_of, QFileDialog::AcceptSave),
+    return {.open = std::bind_front(ask_for_file, in_front_of, QFileDialog::AcceptOpen, examples),
+            .save = std::bind_front(ask_for_file, in_front_of, QFileDialog::AcceptSave, QString()),
             .colour = std::bind_front(ask_for_colour, in_front_of),
             .ask = std::bind_front(ask, in_front_of),
             .tell = std::bind_front(tell, in_front_of)};

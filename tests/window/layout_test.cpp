@@ -70,7 +70,7 @@ TEST_F(Layout, TabGoesThroughAllControlsInOrder) {
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     }
     EXPECT_EQ(spoken[0] + spoken[4], "Start, degrees CelsiusblankRed");
-    EXPECT_EQ(spoken[14], "Generate Sea Surface PaletteCtrl+S");
+    EXPECT_EQ(spoken[14], "Generate Sea Surface PaletteCtrl+S, while Sea Surface is chosen");
     EXPECT_EQ(spoken[8], "Apply ColorClick to apply color to range selected");
     EXPECT_EQ(spoken[16], "Preset 1: red 255, green 255, blue 255255, 255, 255");
     EXPECT_EQ(spoken.removeDuplicates(), 1); // the first, come round

@@ -89,7 +89,7 @@ TEST_F(OtherWindows, SystemInfoStartsTheDesktopsProgramOrSaysThatThereIsNone) {
 class RealDialogs : public testing::Test {
 protected:
     QWidget parent;
-    const Dialogs dialogs = qt_dialogs(parent);
+    const Dialogs dialogs = qt_dialogs(parent, "/usr"); // with examples there
 };
 
 TEST_F(RealDialogs, TheColourDialogOpensAtTheColour) {
@@ -122,6 +122,8 @@ TEST_F(RealDialogs, FilesAreChosenByNameAndNotMovedInThem) {
                 EXPECT_EQ(dialog.nameFilters(), (QStringList{"*.bmp", "All files (*)"}));
                 EXPECT_TRUE(dialog.sidebarUrls().contains(
                     QUrl::fromLocalFile(QCoreApplication::applicationDirPath())));
+                EXPECT_EQ(dialog.sidebarUrls()[0] == QUrl::fromLocalFile("/usr"),
+                          dialog.acceptMode() == QFileDialog::AcceptOpen);
                 EXPECT_EQ(dialog.selectedFiles(), QStringList(folder.filePath("a.bmp")));
                 dialog.findChild<QLineEdit*>()->setText(typed);
                 QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
