@@ -22,8 +22,7 @@ start() {
     load_palette hvc.bmp
     hvc_cell 99 see be7646
     # A double click and Apply give a cell the colour it has, and bring the preview up to date.
-    hvc_cell 44 click
-    hvc_cell 44 click
+    hvc_cell 44 double_click
     hvc_cell 44 click 3
     click "${apply[@]}"
 }

@@ -31,6 +31,6 @@ class=$(xprop -id "$window" WM_CLASS)
 [[ $class == *"\"$(value_of StartupWMClass)\""* ]] || fail "the desktop entry does not name $class"
 
 click "${quit[@]}"
-wait "$program_id" || fail "the program ended with status $?"
+program_has_ended
 rmdir "$folder/home" || fail "the program has left something behind"
 echo "The installed program starts, shows its window and quits."

@@ -1,10 +1,11 @@
 """The running program's window on the accessibility bus. Run as a program, marks and colours a cell,
 listens whether screen readers are told of each step, and presses the Quit button.
 
-Fails while the program is not on the bus.
+Waits until the program is on the bus.
 """
 
 import sys
+import time
 
 import gi
 
@@ -17,8 +18,12 @@ def children(node):
 
 
 def window():
-    [program] = [p for p in children(Atspi.get_desktop(0)) if p.get_name() == "cirrava-pal"]
-    return program.get_child_at_index(0)
+    for _ in range(600):
+        for program in children(Atspi.get_desktop(0)):
+            if program.get_name() == "cirrava-pal" and program.get_child_count() > 0:
+                return program.get_child_at_index(0)
+        time.sleep(0.1)
+    sys.exit("The program is not on the accessibility bus.")
 
 
 def expect(event_type, node, act):

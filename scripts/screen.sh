@@ -76,7 +76,12 @@ start_program() {
     window=$(xdotool getactivewindow)
 }
 
-program_has_ended() { wait "$program_id" || fail "the program ended with status $?"; }
+is_gone() { ! kill -0 "$program_id"; }
+
+program_has_ended() {
+    wait_until is_gone
+    wait "$program_id" || fail "the program ended with status $?"
+}
 
 scale_factor=1 # of Qt, as in QT_SCALE_FACTOR
 

@@ -13,7 +13,7 @@ save_as() {
     choose_file "$1" "$drive$folder/$2"
     in_window "Ready to create"
     xdotool key Return
-    wait_until cmp "$2" "$top/tests/golden/$2"
+    wait_until cmp --silent "$2" "$top/tests/golden/$2"
     echo "$2: $(stat --format=%s "$2") bytes, each as it must be"
 }
 
@@ -23,17 +23,17 @@ start() {
     see "${ground[@]}" f0f0f0
 }
 
+works=0
 # works_on: after another window, cells still take the current colour, red, and give theirs.
 works_on() {
     in_window "Cirrava PAL"
-    cell=$((${cell:-0} + 1))
-    sea_cell $cell click
-    sea_cell $cell click 3
+    sea_cell $((++works)) click
+    sea_cell $works click 3
     click "${apply[@]}"
-    sea_cell $cell see ff0000
+    sea_cell $works see ff0000
     sea_cell 240 double_click
     see "${swatch[@]}" 000000
-    sea_cell $cell double_click
+    sea_cell $works double_click
     see "${swatch[@]}" ff0000
 }
 
@@ -61,7 +61,6 @@ picture 1-start
 
 # By keys alone: cells 220 to 259, the red slider, Apply, the generate button.
 xdotool key ctrl+End key --repeat 10 Page_Down key Up Tab key --repeat 5 Page_Up key Down
-see 2580 3290 005fb8 # the line under cell 220
 xdotool key Tab Tab Tab End
 see "${swatch[@]}" ff0000
 xdotool key --repeat 4 Tab key space
@@ -102,7 +101,6 @@ program_has_ended
 
 start
 click "${hvc_butt[@]}"
-see 300 6150 00ff00 # the button
 hvc_cell 20 click
 hvc_cell 39 click 3
 click "${red_slider[@]}" 3 # which opens nothing
@@ -130,10 +128,10 @@ program_has_ended
 if [[ -z $drive ]]; then # screen readers, which Wine has none for
     open_accessibility_bus
     start
-    wait_until /usr/bin/python3 "$top/scripts/accessible.py"
+    /usr/bin/python3 "$top/scripts/accessible.py"
     program_has_ended
 fi
-[[ $(ls home) == kdeglobals ]] || fail "the program has left something behind: $(ls home)"
+[[ $(ls -A home) == kdeglobals ]] || fail "the program has left something behind: $(ls -A home)"
 rm -r home
 [[ -n ${2:-} ]] || rm -r "$folder"
 echo "The tour is complete."

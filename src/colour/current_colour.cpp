@@ -1,6 +1,7 @@
 #include "colour/current_colour.h"
 
 #include "scale_editor/qt_values.h"
+#include "widgets/in_reach.h"
 
 namespace cirrava {
 
@@ -26,6 +27,8 @@ void CurrentColour::Color_to_RGB(Colour color) {
 }
 
 void CurrentColour::follow_sliders() {
+    if (!in_reach(channels_[0].slider))
+        return take(colour());
     const int red = channels_[0].slider.value();
     const int green = channels_[1].slider.value();
     const int blue = channels_[2].slider.value();

@@ -27,7 +27,7 @@ public:
     // Makes `color` the current colour, whatever the sliders stood at.
     void take(Colour color);
 
-    // Makes what the sliders stand at the current colour.
+    // Makes what the sliders stand at the current colour. Out of the user's reach, puts them back.
     void follow_sliders();
 
 private:

@@ -1,5 +1,7 @@
 #include "palette_files/bmp_headers.h"
 
+#include <type_traits>
+
 namespace cirrava {
 
 namespace {

@@ -3,6 +3,7 @@
 #include "palette_files/palette_image.h"
 #include "palette_files/save_palette.h"
 #include "platform/failure.h"
+#include "widgets/in_reach.h"
 
 #include <QImage>
 #include <algorithm>
@@ -44,6 +45,8 @@ void HvcPalette::brightness_changed() {
     const int steps = slider_rest - HScroll4_.value();
     if (steps == 0)
         return;
+    if (!in_reach(HScroll4_))
+        return HScroll4_.setValue(slider_rest);
     const bool had_focus = HScroll4_.hasFocus(); // which a disabled control loses
     HScroll4_.setEnabled(false);
     create_hvc_file(steps);

@@ -12,8 +12,6 @@ namespace cirrava {
 // the selected cells.
 class HvcPalette {
 public:
-    static constexpr int slider_rest = 5; // of the brightness slider, from 0 to 10
-
     HvcPalette(CommonDialog& cdlopen, const Selection& selection, CellArray& Label3,
                Slider& HScroll4, PictureBox& Picture1);
 
@@ -28,10 +26,12 @@ public:
     void refresh_preview_silently();
 
     // Follows a move of the brightness slider: shifts the selected cells by as much, refreshes the
-    // preview and puts the slider back to rest.
+    // preview and puts the slider back to rest. Out of the user's reach, only that.
     void brightness_changed();
 
 private:
+    static constexpr int slider_rest = 5; // of the brightness slider, from 0 to 10
+
     void create_hvc_file(int fromwhere);
     void write_preview_file(int fromwhere);
     void show_preview();

@@ -16,9 +16,10 @@ bool ask_whether_to(const QString& verb, CommonDialog& cdlopen) {
 // Asks whether to write `path`, the file that was chosen. While the question stands, another
 // program may make a file there: then that is asked about, too.
 bool may_write(const std::filesystem::path& path, CommonDialog& cdlopen) {
-    if (!plain_file_exists(path) && !ask_whether_to("Write", cdlopen))
-        return false;
-    return !plain_file_exists(path) || ask_whether_to("OVERWRITE", cdlopen);
+    if (plain_file_exists(path))
+        return ask_whether_to("OVERWRITE", cdlopen);
+    return ask_whether_to("Write", cdlopen) &&
+           (!plain_file_exists(path) || ask_whether_to("OVERWRITE", cdlopen));
 }
 
 } // namespace

@@ -165,7 +165,7 @@ void CellArray::mousePressEvent(QMouseEvent* event) {
 
 void CellArray::mouseReleaseEvent(QMouseEvent* event) {
     if (pressed_.testFlag(event->button()))
-        emit released(event->globalPosition(),
+        emit released(place_of(*event),
                       event->button() == Qt::LeftButton ? Side::start : Side::end);
     pressed_.setFlag(event->button(), false);
 }
@@ -177,14 +177,19 @@ void CellArray::mouseDoubleClickEvent(QMouseEvent* event) {
         emit colour_asked(cell);
 }
 
-// Qt rounds the position of an event in the widget itself, on dense screens to the pixel beside the
-// right one.
+// Places in the widget itself and on the screen are rounded, on dense screens to the pixel beside
+// the right one. That in the scene is not: in the widget that has a handle of its own.
+QPointF CellArray::place_of(const QMouseEvent& event) const {
+    const QWidget* const scene = windowHandle() != nullptr ? this : nativeParentWidget();
+    return scene->mapTo(window(), event.scenePosition());
+}
+
 int CellArray::cell_under(const QMouseEvent& event) const {
-    return cell_at(mapFromGlobal(event.globalPosition()));
+    return cell_at(mapFrom(window(), place_of(event)));
 }
 
 void CellArray::mark_at(QPointF point, Side side) {
-    if (const int cell = cell_at(mapFromGlobal(point)); cell >= 0)
+    if (const int cell = cell_at(mapFrom(window(), point)); cell >= 0)
         emit marked(cell, side);
 }
 

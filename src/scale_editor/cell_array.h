@@ -53,7 +53,7 @@ public:
     // description, its position, and the actions of its mouse buttons.
     QAccessibleInterface* new_accessible() override;
 
-    // Marks the cell at `point` of the screen, if there is one.
+    // Marks the cell at `point` of the window, if there is one.
     void mark_at(QPointF point, Side side);
 
 signals:
@@ -61,7 +61,7 @@ signals:
     void marked(int cell, Side side);
     void colour_asked(int cell); // by a double click with the left button
 
-    // A mouse button that was pressed over a cell was released at `point` of the screen: the left
+    // A mouse button that was pressed over a cell was released at `point` of the window: the left
     // one for the start of the range, any other for its end.
     void released(QPointF point, Side side);
 
@@ -74,7 +74,8 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
-    int cell_under(const QMouseEvent& event) const; // -1 where there is none
+    QPointF place_of(const QMouseEvent& event) const; // in the window
+    int cell_under(const QMouseEvent& event) const;   // -1 where there is none
     QList<QRectF> rows_of(const Range& cells) const;
     int visible_width(int cell) const;                        // in twips
     QRect to_pixels_of(int cell, const TwipRect& part) const; // `part` from the cell's top left

@@ -33,7 +33,9 @@ public:
     QVariant maximumValue() const override { return value(cell_count(box_.kind()) - 1); }
     // A blank has no value, but there is no way to say so: of one with a step below 0, Orca at
     // least says no number.
-    QVariant minimumStepSize() const override { return box_.cell() ? value(1) - value(0) : -1; }
+    QVariant minimumStepSize() const override {
+        return box_.cell() ? celsius_step(box_.kind()) : -1;
+    }
 
 private:
     // Without the noise of double arithmetic.

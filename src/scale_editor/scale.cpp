@@ -52,6 +52,10 @@ double celsius(ScaleKind kind, int cell) {
     return cell * scale(kind).step + scale(kind).first;
 }
 
+double celsius_step(ScaleKind kind) {
+    return scale(kind).step;
+}
+
 std::string celsius_text(ScaleKind kind, int cell) {
     const double value = celsius(kind, cell);
     return kind == ScaleKind::hvc ? plain_text(value) : text_of(value, std::chars_format::fixed, 1);

@@ -19,6 +19,9 @@ int cell_count(ScaleKind kind);
 // arithmetic in its last digits; the texts below hide most of it.
 double celsius(ScaleKind kind, int cell);
 
+// How much warmer each cell is than the one before it: 0.5, 0.2 or 1 degrees Celsius.
+double celsius_step(ScaleKind kind);
+
 // A cell's Celsius value as the range boxes show it: with one decimal, on HVC with none.
 std::string celsius_text(ScaleKind kind, int cell);
 

@@ -7,7 +7,6 @@
 #include "ui/about_window.h"
 #include "ui/help_windows.h"
 #include "ui/placer.h"
-#include "widgets/in_reach.h"
 
 #include <QCoreApplication>
 #include <QShortcut>
@@ -59,10 +58,7 @@ void Cirrava::connect_box(RangeBox& box, Side side) {
 void Cirrava::connect_colour() {
     auto& c = controls_;
     for (const auto& [slider, readout] : c.channels)
-        connect(&slider, &Slider::valueChanged, this, [this, &slider = slider] {
-            in_reach(slider) ? current_colour_.follow_sliders()
-                             : current_colour_.take(current_colour_.colour()); // puts it back
-        });
+        connect(&slider, &Slider::valueChanged, this, [this] { current_colour_.follow_sliders(); });
     for (Button& preset : c.color)
         on_click(preset, [this, &preset] { current_colour_.take(from_qt(preset.face())); });
     on_click(c.pickcolor, [this] { pick_colour(cdlopen_, current_colour_); });
@@ -80,10 +76,8 @@ void Cirrava::connect_files() {
                      {"sea.bmp", "Create Sea Surface Palette", "Error # "});
     });
     on_click(c.hvc_command, [this] { hvc_palette_.generate(); });
-    connect(&c.HScroll4, &Slider::valueChanged, this, [this, &c] {
-        in_reach(c.HScroll4) ? hvc_palette_.brightness_changed()
-                             : c.HScroll4.setValue(HvcPalette::slider_rest);
-    });
+    connect(&c.HScroll4, &Slider::valueChanged, this,
+            [this] { hvc_palette_.brightness_changed(); });
     on_click(c.Command5, [this, &c] { load_palette(cdlopen_, c.scales, c.Picture1); });
 }
 

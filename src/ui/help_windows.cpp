@@ -13,7 +13,7 @@ namespace {
 
 constexpr QRgb paper = qRgb(255, 192, 128);
 
-// A text, caption or file of it, and how it stands in a window.
+// A text, and how it stands in a window.
 struct Part {
     QString text;
     TwipRect rect;
@@ -43,18 +43,18 @@ protected:
     }
 };
 
-// A window with a text from a file and a button that closes it, under a heading or none.
+// A window with a text to read and a button that closes it, under a heading or none.
 class HelpWindow : public QDialog, private Placer {
 public:
     HelpWindow(QWidget& parent, const QString& name, const QString& title, QSize client_area,
                const Part& text, const Part& exit, const Part& heading = {})
         : QDialog(&parent), Placer(*this, title, client_area) {
         setObjectName(name);
-        if (!heading.text.isEmpty()) // the window owns it
-            label(*new QLabel, "Label1", heading.text, heading.rect, heading.look);
+        if (!heading.text.isEmpty())
+            label(*new QLabel, "Label1", heading.text, heading.rect, heading.look); // owned by it
         control(Text1_, "Text1", title, text.rect);
         give_look(Text1_, text.look);
-        Text1_.setPlainText(read_text(text.text));
+        Text1_.setPlainText(text.text);
         Text1_.setFocus();
         button(Command1_, "Command1", exit.text, exit.rect, exit.look);
         Command1_.setAutoDefault(false); // Enter in the text does not press it
@@ -84,7 +84,7 @@ private:
 void show_palhelp(QWidget& parent) {
     constexpr Look dark_green{.text = qRgb(0, 64, 0), .ground = paper, .font = {.points = 12}};
     HelpWindow(parent, "palhelp", "Cirrava PAL How To", {10170, 9255},
-               {":/how_to_use.txt", {240, 240, 9375, 8175}, dark_green},
+               {read_text(":/how_to_use.txt"), {240, 240, 9375, 8175}, dark_green},
                {"Exit", {3600, 8520, 2295, 615}})
         .exec();
 }
@@ -94,7 +94,7 @@ void show_hvchelp(QWidget& parent) {
     constexpr Look narrow{.font = {.family = FontFamily::narrow}};
     constexpr Look underlined{.font = {FontFamily::narrow, 14.25, true, true}};
     HelpWindow(parent, "hvchelp", "About HVC Palette", {4680, 6915},
-               {":/hvc.txt", {120, 840, 4335, 5175}, green},
+               {read_text(":/hvc.txt"), {120, 840, 4335, 5175}, green},
                {"QUIT", {1320, 6240, 1935, 495}, narrow},
                {"Information about HVC Palette", {120, 240, 4335, 375}, underlined})
         .exec();

@@ -9,7 +9,8 @@
 
 class QApplication;
 
-// How the program looks, on every desktop the same: colours are judged against a neutral ground.
+// How the program looks, and its resources. It looks the same on every desktop: colours are judged
+// against a neutral ground.
 namespace cirrava {
 
 enum class FontFamily { sans, narrow };
@@ -37,7 +38,7 @@ QImage program_picture();
 
 QIcon program_icon();
 
-// A text among the program's resources, as ":/hvc.txt", one line for each paragraph.
+// A text among the program's resources, as ":/hvc.txt", without blanks at its ends.
 QString read_text(const QString& file);
 
 // Sets the Fusion style with one fixed light palette and the standard font. To be called before any

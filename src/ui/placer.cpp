@@ -19,7 +19,8 @@ public:
     }
 
     // On a screen of another density a window keeps its number of device pixels. To set the size
-    // that it has already would reach no window manager.
+    // that it has already would reach no window manager. (The handle tells of the screen, too, but
+    // one that is asked for early gives every control a handle of its own.)
     bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() == QEvent::ScreenChangeInternal) {
             window_.setFixedSize(size_ + QSize(1, 1));

@@ -8,30 +8,34 @@ namespace cirrava {
 
 namespace {
 
-bool is_enter(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+bool is_enter(int key) {
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 class FalseRepeats : public QObject {
 public:
     using QObject::QObject;
 
-    // Each event comes to a window first, then to a control in it.
+    // Each event comes to a window first, then to a control in it; the keys of a shortcut come to
+    // that alone.
     bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Shortcut)
+            enter_was_last_ = is_enter(static_cast<QShortcutEvent*>(event)->key()[0].key());
         return object->isWindowType() ? is_held_enter(*event) : is_split(*object, *event);
     }
 
 private:
     bool is_held_enter(const QEvent& event) {
-        const auto* const key = dynamic_cast<const QKeyEvent*>(&event);
         if (event.type() == QEvent::MouseButtonPress)
             enter_was_last_ = false;
-        if (event.type() == QEvent::KeyRelease && is_enter(*key))
-            released_ = key->timestamp();
-        if (event.type() != QEvent::KeyPress)
+        if (event.type() != QEvent::KeyPress && event.type() != QEvent::KeyRelease)
             return false;
-        const bool held = is_held(*key);
-        enter_was_last_ = is_enter(*key);
+        const auto& key = static_cast<const QKeyEvent&>(event);
+        const bool held = event.type() == QEvent::KeyPress && is_held(key);
+        if (event.type() == QEvent::KeyPress)
+            enter_was_last_ = is_enter(key.key());
+        else if (is_enter(key.key()))
+            released_ = key.timestamp();
         return held;
     }
 
@@ -42,10 +46,11 @@ private:
     bool is_held(const QKeyEvent& press) const {
         const bool repeats =
             press.isAutoRepeat() || (released_ != 0 && press.timestamp() == released_);
-        return is_enter(press) && enter_was_last_ && repeats;
+        return is_enter(press.key()) && enter_was_last_ && repeats;
     }
 
-    // A press goes from a control on to what that lies in, until one takes it.
+    // A press goes from a control on to what that lies in, until one takes it. (The double click of
+    // a control that leaves it to what that lies in would be lost; there is none.)
     bool is_split(QObject& control, const QEvent& event) {
         if (event.type() == QEvent::MouseButtonPress)
             pressed_ = &control;

@@ -97,7 +97,7 @@ std::optional<QString> ask_for_file(QWidget& parent, QFileDialog::AcceptMode mod
     dialog.selectFile(question.name);
     let_typing_replace_selection(dialog);
     make_room_for_names(dialog);
-    dialog.resize(dialog.sizeHint().boundedTo(parent.size())); // which fits on the screen
+    dialog.resize(dialog.sizeHint().boundedTo(parent.size())); // that fits on its screen
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return QDir::cleanPath(chosen_in(dialog));

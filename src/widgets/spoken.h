@@ -4,7 +4,8 @@
 
 namespace cirrava {
 
-// A widget that screen readers know in its own way.
+// A widget that gives screen readers an interface of its own: `set_up_application` has Qt ask for
+// it.
 class Spoken {
 public:
     virtual ~Spoken() = default;

@@ -6,10 +6,12 @@ namespace cirrava {
 
 namespace {
 
-// Made without this program: black cells but for those from `first` to `last`.
+// Made without this program.
 Bytes golden(const char* name) {
     return BinaryFile(std::string(GOLDEN "/") + name, FileAccess::read).read(100'000);
 }
+
+// Black but for those from `first` to `last`.
 std::vector<Colour> cells(ScaleKind kind, int first, int last, Colour colour) {
     std::vector<Colour> colours(static_cast<std::size_t>(cell_count(kind)), 0);
     std::fill(colours.begin() + first, colours.begin() + last + 1, colour);
@@ -43,7 +45,7 @@ TEST(PaletteImage, IsKnownByItsTypeAndSizeAmongItsHeaders) {
 
 TEST(PaletteImage, PixelsStandInStepsOfFourBytesAfterTheHeaders) {
     for (const auto& [bfOffBits, offset] :
-         {std::pair(54, 54L), {-1, 54}, {57, 54}, {58, 58}, {138, 138}, {INT32_MAX, 2147483646}}) {
+         {std::pair(-1, 54L), {57, 54}, {58, 58}, {138, 138}, {INT32_MAX, 2147483646}}) {
         Bytes file = golden("thermal.bmp");
         for (std::size_t i = 0; i < 4; ++i)
             file[10 + i] = static_cast<std::uint8_t>(bfOffBits >> (8 * i));

@@ -35,6 +35,7 @@ TEST(BinaryFile, FailuresToOpenHaveTheirNumbers) {
     for (const std::string& no_file : {folder, folder + "/pipe", std::string("/dev/null")})
         check(no_file, 75, 75);
     EXPECT_FALSE(plain_file_exists(folder + "/.hidden"));
+    chmod((folder + "/file").c_str(), 0444);
     chmod(folder.c_str(), 0555);
     const auto check_as_nobody = [&] { // in a process of its own, since root may do everything
         EXPECT_TRUE(geteuid() != 0 || setuid(65534) == 0);
@@ -45,6 +46,7 @@ TEST(BinaryFile, FailuresToOpenHaveTheirNumbers) {
         _exit(testing::Test::HasFailure() ? 1 : 0);
     };
     EXPECT_EXIT(check_as_nobody(), testing::ExitedWithCode(0), "");
+    chmod(folder.c_str(), 0755);
     std::filesystem::remove_all(folder);
 }
 

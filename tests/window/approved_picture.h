@@ -3,8 +3,9 @@
 #include <QtWidgets>
 #include <gtest/gtest.h>
 
-// How windows look, against approved pictures of half their size. CIRRAVA_APPROVE=1 makes these
-// anew: see that they show what you meant to change before you commit them.
+// How windows look, against approved pictures of half their size and the texts of their controls.
+// CIRRAVA_APPROVE=1 makes these anew: see that they show what you meant to change before you commit
+// them.
 namespace cirrava {
 
 // What stands on the screen, as it is painted by now.
@@ -48,9 +49,28 @@ inline QRegion letters(const QWidget& window) {
     return QTransform::fromScale(0.5, 0.5).map(region);
 }
 
+// What controls say: their texts, tooltips, and names and descriptions for screen readers.
+inline void expect_approved_texts(const QWidget& window, const QString& picture) {
+    std::string seen;
+    for (const auto* control : window.findChildren<QWidget*>()) {
+        QStringList says{control->property("text").toString(), control->toolTip(),
+                         control->accessibleName(), control->accessibleDescription()};
+        says.removeAll("");
+        if (!says.isEmpty())
+            seen += (control->objectName() + ": " + says.join(" | ") + '\n').toStdString();
+    }
+    QFile file(PICTURES "/" + picture + ".txt");
+    if (qEnvironmentVariableIsSet("CIRRAVA_APPROVE") && file.open(QIODevice::WriteOnly))
+        file.write(seen.c_str());
+    file.close();
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(file.fileName());
+    EXPECT_EQ(seen, file.readAll().toStdString());
+}
+
 // Releases of Qt and of the fonts set letters a little apart, and the lines of a help text, of
 // which only the first words are looked at.
 inline void expect_as_approved(QWidget& window, const QString& picture) {
+    expect_approved_texts(window, picture);
     if (auto* help = window.findChild<QPlainTextEdit*>())
         help->setPlainText(help->toPlainText().left(20));
     QImage seen = on_screen(window)

@@ -33,7 +33,6 @@ TEST_F(Controls, BoxesTellWhatTheyShow) {
     EXPECT_EQ(heard("Sea_butt").text(QAccessible::Description), "working scale");
     act("click color(12)");
     EXPECT_EQ(find("sample").accessibleDescription(), "red 255, green 224, blue 192");
-    EXPECT_EQ(find("sample").toolTip() + find("Command4").toolTip(), "255, 224, 192F1");
 }
 
 TEST_F(Controls, OtherProgramsCannotWriteWhereTheUserCannot) {
@@ -48,6 +47,7 @@ TEST_F(Controls, OtherProgramsCannotWriteWhereTheUserCannot) {
 }
 
 TEST_F(Controls, HeldKeysPressNothingTwice) {
+    // X11 sends a repetition as a release and a press in one instant.
     const auto press_enter = [this](QEvent::Type type, quint64 instant, bool repeat = false) {
         QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier, "\r", repeat);
         event.setTimestamp(instant);
@@ -60,15 +60,17 @@ TEST_F(Controls, HeldKeysPressNothingTwice) {
     press_enter(QEvent::KeyRelease, 3);
     press_enter(QEvent::KeyPress, 3);
     EXPECT_EQ(swatch(), Qt::red);
-    act("left Label2 1"); // by the mouse, before which the key's release may have been lost
+    act("left Label2 1"); // after which no key is held, even if its release was lost
     press_enter(QEvent::KeyPress, 4, true);
     EXPECT_EQ(swatch(), QColor(128, 128, 128));
 }
 
 TEST_F(Controls, SlidersMoveByOne) {
     Slider& bar = find<Slider>("HScroll1");
-    mouse(QTest::MouseClick, bar, {bar.width() - 4, 8});  // the arrow
+    mouse(QTest::MouseClick, bar, {bar.width() - 4, 8}); // the arrow
+    EXPECT_EQ(bar.value(), 1);
     mouse(QTest::MouseClick, bar, {bar.width() - 30, 8}); // the track
+    EXPECT_EQ(bar.value(), 2);
     EXPECT_TRUE(bar.hasFocus());
     for (int part = 0; part < 3; ++part) { // a fine wheel, a notch in all
         QWheelEvent turn({9, 9}, {9, 9}, {}, {0, 40}, {}, {}, Qt::NoScrollPhase, false);
@@ -78,7 +80,7 @@ TEST_F(Controls, SlidersMoveByOne) {
     EXPECT_EQ(swatch(), QColor(3, 0, 0));
 }
 
-TEST_F(Controls, TheTemperaturesInBoxesCanBeCopied) {
+TEST_F(Controls, TheTemperaturesInBoxesCanBeMarked) {
     act("left thermal_char 35");
     QLabel& box = find<QLabel>("Text1");
     QTest::mouseMove(window.windowHandle(), box.geometry().center());

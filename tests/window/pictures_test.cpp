@@ -13,8 +13,8 @@ TEST_F(Pictures, ColouredScaleWithARangeAndHeldButtons) {
     paint("thermal_char", 0, 149, 14);
     paint("thermal_char", 150, 319, 19);
     act("left thermal_char 250, right thermal_char 130");
-    auto& green = find("HScroll2");
-    QTest::mousePress(&green, Qt::LeftButton, {}, green.rect().bottomRight() - QPoint(4, 8));
+    const QPoint arrow = find("HScroll2").rect().bottomRight() - QPoint(4, 8);
+    QTest::mousePress(&find("HScroll2"), Qt::LeftButton, {}, arrow);
     QTest::mousePress(&find("Command5"), Qt::LeftButton);
     expect_as_approved(window, "thermal");
 }

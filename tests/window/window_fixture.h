@@ -43,16 +43,20 @@ private:
     }
 };
 
-// Does `action` in the next modal window of type `Dialog`, as soon as it has the keyboard, and
-// closes the window where the action has not.
-template <class Dialog> void in_next(const std::function<void(Dialog&)>& action) {
-    QTimer::singleShot(0, [action] {
+// Does `action` in the modal window of type `Dialog` that opens by `open`, as soon as it has the
+// keyboard, and closes the window where the action has not.
+template <class Dialog>
+void in_window(const std::function<void()>& open, const std::function<void(Dialog&)>& action) {
+    bool opened = false;
+    QTimer::singleShot(0, [&] {
         auto& dialog = dynamic_cast<Dialog&>(*QApplication::activeModalWidget());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isActiveWindow(); }));
+        opened = QTest::qWaitFor([&] { return dialog.isActiveWindow(); });
         action(dialog);
         if (dialog.isVisible())
             dialog.reject();
     });
+    open();
+    EXPECT_TRUE(opened);
 }
 
 // The control of that name.
@@ -94,9 +98,9 @@ protected:
     }
     // At places between whole pixels, too.
     void mouse_at(QPointF point, std::initializer_list<QEvent::Type> does) {
-        for (const auto type : does) {
+        for (const auto type : does) { // X11 tells the place on the screen in whole pixels
             const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-            QMouseEvent event(type, point, window.mapToGlobal(point), button, button, {});
+            QMouseEvent event(type, point, window.mapToGlobal(point.toPoint()), button, button, {});
             QCoreApplication::sendEvent(window.windowHandle(), &event);
         }
     }
@@ -114,7 +118,7 @@ protected:
     // with a button of the mouse, "left thermal_char 220"; "down" and "up" are halves of "left".
     void act(const QString& steps) {
         using enum QTest::MouseAction;
-        const QHash<QString, std::pair<QTest::MouseAction, Qt::MouseButton>> mouse_verbs{
+        static const QHash<QString, std::pair<QTest::MouseAction, Qt::MouseButton>> mouse_verbs{
             {"click", {MouseClick, Qt::LeftButton}},   {"left", {MouseClick, Qt::LeftButton}},
             {"right", {MouseClick, Qt::RightButton}},  {"middle", {MouseClick, Qt::MiddleButton}},
             {"double", {MouseDClick, Qt::LeftButton}}, {"down", {MousePress, Qt::LeftButton}},
@@ -131,6 +135,11 @@ protected:
             } else
                 FAIL() << "nobody can " << step.toStdString();
         }
+    }
+
+    // Does `action` in the window that opens by `steps`.
+    void in_window_of(const QString& steps, const std::function<void(QDialog&)>& action) {
+        in_window<QDialog>([&] { act(steps); }, action);
     }
 
     // Gives the cells `first` to `last` the colour of a preset.
