@@ -54,6 +54,7 @@ public:
             label(*new QLabel, "Label1", heading.text, heading.rect, heading.look); // owned by it
         control(Text1_, "Text1", title, text.rect);
         give_look(Text1_, text.look);
+        Text1_.setAutoFillBackground(false); // within its frame, it fills itself
         Text1_.setPlainText(text.text);
         Text1_.setFocus();
         button(Command1_, "Command1", exit.text, exit.rect, exit.look);
