@@ -35,7 +35,7 @@ void CellArray::set_colours(std::span<const Colour> colours) {
         return;
     std::copy_n(colours.begin(), count, colours_.begin());
     update();
-    QAccessibleEvent event(this, QAccessible::DescriptionChanged); // screen readers hear it
+    QAccessibleEvent event(this, QAccessible::DescriptionChanged); // who keeps it asks anew
     QAccessible::updateAccessibility(&event);
     emit changed();
 }

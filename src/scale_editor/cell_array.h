@@ -87,7 +87,7 @@ private:
     int left_ = 0;
     int top_ = 0;
     int dpi_ = 96;
-    int hovered_ = -1;         // the cell under the pointer; -1 where there is none
+    int hovered_ = -1;         // where the pointer last moved here; -1 is no cell
     Qt::MouseButtons pressed_; // over cells, and not yet released
 };
 
