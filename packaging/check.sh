@@ -57,7 +57,7 @@ grep --quiet "$id" "$folder/package/usr/bin/cirrava-pal" || fail "the program do
 
 same "before the package is installed" "$(traces)" ""
 trap purge EXIT
-"${as_root[@]}" apt-get install --yes --no-install-recommends "$package"
+apt_get install --no-install-recommends "$package"
 "$packaging/try_installed.sh" "$folder"
 "$packaging/try_wayland.sh" cirrava-pal
 purge

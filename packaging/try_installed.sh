@@ -15,7 +15,6 @@ mkdir "$folder/home"
 cd "$folder/home"
 env --unset=XDG_CONFIG_HOME HOME="$folder/home" "$(value_of Exec)" &
 program_id=$!
-started+=("$program_id")
 in_window "$(value_of Name)"
 window=$(xdotool getactivewindow)
 see "${swatch[@]}" 000000

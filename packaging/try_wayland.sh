@@ -10,7 +10,6 @@ unset DISPLAY
 export XDG_RUNTIME_DIR=$folder XDG_SESSION_TYPE=wayland WAYLAND_DISPLAY=cirrava-test
 weston --backend=headless-backend.so --use-pixman --width=1280 --height=800 --idle-time=0 \
     --socket="$WAYLAND_DISPLAY" --log="$folder/weston.log" &
-started+=($!)
 wait_until test -S "$folder/$WAYLAND_DISPLAY"
 open_accessibility_bus
 "$1" &

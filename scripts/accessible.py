@@ -14,14 +14,15 @@ from gi.repository import Atspi, GLib
 
 
 def children(node):
-    return [node.get_child_at_index(i) for i in range(node.get_child_count())]
+    found = [node.get_child_at_index(i) for i in range(node.get_child_count())]
+    return [child for child in found if child is not None]  # one that has ended meanwhile
 
 
 def window():
     for _ in range(600):
         for program in children(Atspi.get_desktop(0)):
-            if program.get_name() == "cirrava-pal" and program.get_child_count() > 0:
-                return program.get_child_at_index(0)
+            if program.get_name() == "cirrava-pal" and children(program):
+                return children(program)[0]
         time.sleep(0.1)
     sys.exit("The program is not on the accessibility bus.")
 

@@ -4,14 +4,8 @@
 
 patience=60 # seconds
 
-started=()
-stop_started() {
-    local id
-    for id in "${started[@]}"; do
-        kill "$id" 2>/dev/null || true
-    done
-}
-trap stop_started EXIT
+# Ends what was started here and still runs.
+trap 'jobs -rp | xargs --no-run-if-empty kill 2>/dev/null || true' EXIT
 
 fail() {
     echo "FAILED: $*" >&2
@@ -41,13 +35,11 @@ open_screen() {
     : >"$number"
     # Without -noreset it starts anew when its last client leaves, and turns others away meanwhile.
     Xvfb -noreset -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$number" 2>/dev/null &
-    started+=($!)
     wait_until test -s "$number"
     DISPLAY=:$(<"$number")
     export DISPLAY
     rm "$number"
     openbox 2>/dev/null &
-    started+=($!)
     wait_until window_manager_answers
 }
 
@@ -58,7 +50,6 @@ on_private_bus() {
 
 open_accessibility_bus() {
     /usr/libexec/at-spi-bus-launcher --launch-immediately &
-    started+=($!)
     export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 }
 
@@ -71,7 +62,6 @@ in_window() { wait_until is_active "$1"; }
 start_program() {
     "$@" &
     program_id=$!
-    started+=("$program_id")
     in_window "Cirrava PAL"
     window=$(xdotool getactivewindow)
 }

@@ -50,7 +50,7 @@ void HvcPalette::brightness_changed() {
     const bool had_focus = HScroll4_.hasFocus(); // which a disabled control loses
     HScroll4_.setEnabled(false);
     create_hvc_file(steps);
-    refresh_preview();
+    refresh_preview(); // a second writing, of which a failure is told, too
     HScroll4_.setValue(slider_rest);
     HScroll4_.setEnabled(true);
     if (had_focus)
@@ -66,13 +66,16 @@ void HvcPalette::create_hvc_file(int fromwhere) {
     }
 }
 
-// The selected cells change once the headers are written, even if the pixels cannot be.
+// The preview file's bytes are fixed as those of palettes are, and so is what it holds between a
+// shift and the refresh after it: of darker cells the new colours from row 127 up, of lighter ones
+// the old ones only. The selected cells change once the headers are written, even if the pixels
+// cannot be.
 void HvcPalette::write_preview_file(int fromwhere) {
     const auto before = Label3_.colours();
     const auto after =
         shift_brightness(before, brightness_levels(fromwhere), selection_.brightness_range());
     Bytes image = hvc_image(before);
-    if (fromwhere > 0) { // darker cells show from row 127 up, lighter ones from the next image on
+    if (fromwhere > 0) {
         const Bytes darker = hvc_image(after);
         std::copy(darker.begin() + hvc_row_127, darker.end(), image.begin() + hvc_row_127);
     }

@@ -33,7 +33,8 @@ inline constexpr int hvc_rows = 256;
 // stopping at 0 and at 255.
 Bytes hvc_image(std::span<const Colour> cells);
 
-inline constexpr int hvc_row_127 = 54 + 128 * 300; // where its bytes start in the image
+// Where the bytes of its row 127 start: above 128 rows of 100 pixels.
+inline constexpr int hvc_row_127 = int{headers_size} + 128 * 100 * 3;
 
 // Where the headers of a palette file say that its colours are.
 struct PaletteLayout {

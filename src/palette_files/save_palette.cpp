@@ -13,9 +13,10 @@ bool ask_whether_to(const QString& verb, CommonDialog& cdlopen) {
     return cdlopen.ask(verb + " " + out_path + "?", "Ready to create");
 }
 
-// Asks whether to write `path`, the file that was chosen. While the question stands, another
-// program may make a file there: then that is asked about, too.
-bool may_write(const std::filesystem::path& path, CommonDialog& cdlopen) {
+// Asks whether to write the file that was chosen. While the question stands, another program may
+// make a file there: then that is asked about, too.
+bool may_write(CommonDialog& cdlopen) {
+    const auto path = cdlopen.file_path();
     if (plain_file_exists(path))
         return ask_whether_to("OVERWRITE", cdlopen);
     return ask_whether_to("Write", cdlopen) &&
@@ -29,10 +30,9 @@ bool save_palette(CommonDialog& cdlopen, const Bytes& image, const SaveTexts& te
         cdlopen.FileName = texts.file_name;
         cdlopen.DialogTitle = texts.title;
         cdlopen.ShowSave();
-        const auto path = cdlopen.file_path();
-        if (!may_write(path, cdlopen))
+        if (!may_write(cdlopen))
             return false;
-        BinaryFile file(path, FileAccess::write);
+        BinaryFile file(cdlopen.file_path(), FileAccess::write);
         file.write(image);
         file.sync();
         file.close();

@@ -28,7 +28,7 @@ public:
                                                    : QAccessibleWidget::interface_cast(type);
     }
     QVariant currentValue() const override { return box_.cell() ? value(*box_.cell()) : qQNaN(); }
-    void setCurrentValue(const QVariant&) override {}
+    void setCurrentValue(const QVariant&) override {} // nobody types a temperature
     QVariant minimumValue() const override { return value(0); }
     QVariant maximumValue() const override { return value(cell_count(box_.kind()) - 1); }
     // A blank has no value, but there is no way to say so: of one with a step below 0, Orca at

@@ -83,7 +83,8 @@ QIcon program_icon() {
 
 QString read_text(const QString& file) {
     QFile resource(file);
-    resource.open(QIODevice::ReadOnly);
+    if (!resource.open(QIODevice::ReadOnly))
+        qFatal("There is no text %s.", qPrintable(file));
     return QString::fromUtf8(resource.readAll()).trimmed();
 }
 

@@ -97,7 +97,7 @@ std::optional<QString> ask_for_file(QWidget& parent, QFileDialog::AcceptMode mod
     dialog.selectFile(question.name);
     let_typing_replace_selection(dialog);
     make_room_for_names(dialog);
-    dialog.resize(dialog.sizeHint().boundedTo(parent.size())); // that fits on its screen
+    dialog.resize(dialog.sizeHint().boundedTo(parent.size())); // which fits on the screen
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return QDir::cleanPath(chosen_in(dialog));
@@ -114,8 +114,8 @@ QString breakable(const QString& text, const QFontMetrics& metrics, int width) {
     return words.join(u' ');
 }
 
-// A text and a row of buttons, of which the first is the default. Qt's own message box keeps room
-// for an icon that is not there, and copies the breaks of a long path with its text.
+// A text and a row of buttons, of which the first accepts and is the default. Qt's own message box
+// keeps room for an icon that is not there, and copies the breaks of a long path with its text.
 class MessageBox : public QDialog, public Spoken {
 public:
     MessageBox(QWidget& parent, const QString& title, const QString& text,
@@ -131,8 +131,8 @@ public:
             button->setText(caption);
             // Pressed by its first letter. A shortcut finds Latin letters under other alphabets.
             new QShortcut(caption.left(1), this, button, &Button::click);
-            row->addButton(button, caption == "No" ? QDialogButtonBox::NoRole
-                                                   : QDialogButtonBox::AcceptRole);
+            row->addButton(button, row->buttons().isEmpty() ? QDialogButtonBox::AcceptRole
+                                                            : QDialogButtonBox::RejectRole);
         }
         connect(row, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(row, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -21,9 +21,10 @@ std::vector<Colour> cells(ScaleKind kind, int first, int last, Colour colour) {
 } // namespace
 
 TEST(PaletteImage, IsRightToTheByte) {
-    EXPECT_EQ(row_image(cells(ScaleKind::thermal, 220, 259, 0x0000FF)), golden("thermal.bmp"));
-    EXPECT_EQ(row_image(cells(ScaleKind::sea, 1, 249, 0x030201)), golden("sea.bmp"));
-    EXPECT_EQ(hvc_image(cells(ScaleKind::hvc, 20, 39, 0x0000FA)), golden("hvc.bmp"));
+    EXPECT_EQ(row_image(cells(ScaleKind::thermal, 220, 259, RGB(255, 0, 0))),
+              golden("thermal.bmp"));
+    EXPECT_EQ(row_image(cells(ScaleKind::sea, 1, 249, RGB(1, 2, 3))), golden("sea.bmp"));
+    EXPECT_EQ(hvc_image(cells(ScaleKind::hvc, 20, 39, RGB(250, 0, 0))), golden("hvc.bmp"));
 }
 
 TEST(PaletteImage, IsKnownByItsTypeAndSizeAmongItsHeaders) {
@@ -48,7 +49,7 @@ TEST(PaletteImage, PixelsStandInStepsOfFourBytesAfterTheHeaders) {
          {std::pair(-1, 54L), {57, 54}, {58, 58}, {138, 138}, {INT32_MAX, 2147483646}}) {
         Bytes file = golden("thermal.bmp");
         for (std::size_t i = 0; i < 4; ++i)
-            file[10 + i] = static_cast<std::uint8_t>(bfOffBits >> (8 * i));
+            file[10 + i] = static_cast<std::uint8_t>(bfOffBits >> (8 * i)); // where it stands
         EXPECT_EQ(palette_layout(file)->pixels_offset, offset) << bfOffBits;
     }
 }

@@ -28,14 +28,15 @@ TEST_F(Layout, CaptionsFitTheirBoxes) {
     find<QLabel>("Label15").setText("255");
     for (const auto* control : window.findChildren<QWidget*>()) {
         const QString caption = control->property("text").toString().trimmed();
+        if (caption.isEmpty())
+            continue;
         const auto* button = qobject_cast<const Button*>(control);
         const QRect box = button != nullptr ? button->caption_box() : control->contentsRect();
         const QFontMetrics metrics = control->fontMetrics();
         const QSize needed = metrics.boundingRect(box, Qt::TextWordWrap, caption).size();
+        EXPECT_LE(needed.width(), box.width() + 1) << caption.toStdString();
         // The last line may stand out by the empty part below its letters.
-        EXPECT_TRUE(caption.isEmpty() || (needed.width() <= box.width() + 1 &&
-                                          needed.height() <= box.height() + metrics.descent()))
-            << caption.toStdString();
+        EXPECT_LE(needed.height(), box.height() + metrics.descent()) << caption.toStdString();
     }
 }
 
@@ -69,16 +70,17 @@ TEST_F(Layout, EachPixelOfTheScreenBelongsToTheCellThatItShows) {
         EXPECT_TRUE(tooltip_at(point, thermal()).startsWith(QString("(%1)").arg(cell + 1)))
             << point.x();
         click_at(point);
-        EXPECT_EQ(text("Text1"), (QStringList{"-110.0", "-109.5", "-109.0"})[cell]) << point.x();
+        EXPECT_EQ(text("Text1"), QString::number(-110 + 0.5 * cell, 'f', 1)) << point.x();
     }
 }
 
 TEST_F(Layout, ATooltipStandsAtItsCellAndGoesWithIt) {
-    const QPoint point = thermal().mapTo(&window, place_in(thermal(), "50"));
+    const QPoint point = thermal().mapTo(&window, place_of(thermal(), 50));
     EXPECT_EQ(tooltip_at(point, thermal()), "(51) -85.0Celcius / -121Farenheit");
     for (const auto* shown : QApplication::topLevelWidgets())
-        EXPECT_TRUE(!shown->inherits("QTipLabel") ||
-                    (shown->pos() - window.mapToGlobal(point)).manhattanLength() < 50);
+        if (shown->inherits("QTipLabel")) {
+            EXPECT_LT((shown->pos() - window.mapToGlobal(point)).manhattanLength(), 50);
+        }
     mouse_at(point + QPoint(20, 0), {QEvent::MouseMove});
     EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 2000));
 }
@@ -89,7 +91,8 @@ TEST_F(Layout, CellsLieOverArrowsAndUnderButtons) {
     for (const char* button : {"thermal_command", "Sea_butt", "sea_command", "hvc_butt"})
         click_at(find(button).geometry().bottomLeft() + QPoint(50, 0));
     EXPECT_EQ(user.saw.filter("Create").size(), 2);
-    EXPECT_EQ(text("Label5") + text("Text1"), "HVC ");
+    EXPECT_EQ(text("Label5"), "HVC");
+    EXPECT_EQ(text("Text1"), " ");
 }
 
 } // namespace cirrava

@@ -23,7 +23,7 @@ TEST_F(Pictures, HvcWithRangePreviewAndKeyboardFocus) {
     act("left thermal_char 20, right thermal_char 90");
     paint("Label3", 0, 59, 3);
     paint("Label3", 40, 79, 26);
-    act("click Command1, left Label3 45, press HScroll3 Tab");
+    act("click Command1, left Label3 58, press HScroll3 Tab");
     expect_as_approved(window, "hvc");
 }
 

@@ -22,24 +22,20 @@ struct User {
 
     Dialogs dialogs() {
         const auto choose_file = [this](const FileQuestion& asked) {
-            return answer(asked.title + ": " + asked.name + " of " + asked.filter + " in " +
-                              asked.folder,
-                          path);
+            saw << asked.title + ": " + asked.name + " of " + asked.filter + " in " + asked.folder;
+            return path;
         };
-        return {choose_file, choose_file,
-                [this](const QColor& initial) { return answer(initial.name(), colour); },
-                [this](const QString& text, const QString& title) {
-                    answer(title + ": " + text, yes);
-                    meanwhile();
-                    return yes;
-                },
+        const auto choose_colour = [this](const QColor& initial) {
+            saw << initial.name();
+            return colour;
+        };
+        const auto ask = [this](const QString& text, const QString& title) {
+            saw << title + ": " + text;
+            meanwhile();
+            return yes;
+        };
+        return {choose_file, choose_file, choose_colour, ask,
                 [this](const QString& text) { saw << text; }};
-    }
-
-private:
-    template <class Answer> Answer answer(const QString& question, const Answer& given) {
-        saw << question;
-        return given;
     }
 };
 
@@ -48,29 +44,37 @@ private:
 template <class Dialog>
 void in_window(const std::function<void()>& open, const std::function<void(Dialog&)>& action) {
     bool opened = false;
-    QTimer::singleShot(0, [&] {
-        auto& dialog = dynamic_cast<Dialog&>(*QApplication::activeModalWidget());
-        opened = QTest::qWaitFor([&] { return dialog.isActiveWindow(); });
-        action(dialog);
-        if (dialog.isVisible())
-            dialog.reject();
+    QTimer look;
+    look.callOnTimeout([&] {
+        auto* const dialog = dynamic_cast<Dialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr)
+            return;
+        look.stop();
+        opened = QTest::qWaitFor([&] { return dialog->isActiveWindow(); });
+        action(*dialog);
+        if (dialog->isVisible())
+            dialog->reject();
     });
+    look.start(0);
     open();
-    EXPECT_TRUE(opened);
+    EXPECT_TRUE(opened) << "no such window";
 }
 
 // The control of that name.
 template <class Control = QWidget> Control& find_in(const QWidget& window, const QString& name) {
     auto* const control = window.findChild<Control*>(name);
-    Q_ASSERT_X(control != nullptr, "there is no control", qPrintable(name));
+    EXPECT_NE(control, nullptr) << "there is no " << qPrintable(name);
     return *control;
 }
 
-// The real window on the offscreen platform, worked by real mouse and key events. The current
-// folder, where the preview is written, is a fresh one.
+// The real window on the offscreen platform, worked by real mouse and key events. The user's home,
+// the only folder of programs and the current folder, where the preview is written, are a fresh
+// one.
 class WindowTest : public testing::Test {
 protected:
     WindowTest() {
+        for (const char* variable : {"HOME", "XDG_CONFIG_HOME", "PATH"})
+            qputenv(variable, folder.path().toUtf8());
         QDir::setCurrent(folder.path());
         window.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -106,16 +110,14 @@ protected:
     }
     void press(const QKeySequence& keys) { QTest::keySequence(window.focusWidget(), keys); }
 
-    // In a control: the middle, or that of a cell; half a cell on is below it, between two rows.
-    static QPoint place_in(const QWidget& control, const QString& cell) {
-        const auto* cells = qobject_cast<const CellArray*>(&control);
-        return cells == nullptr ? control.rect().center()
-                                : cells->cell_box(cell.section('.', 0, 0).toInt()).topLeft() +
-                                      QPoint(3, cell.endsWith(".5") ? 25 : 5);
+    // In the strip of a cell, or below that, between two rows.
+    static QPoint place_of(const CellArray& cells, int cell, bool below = false) {
+        return cells.cell_box(cell).topLeft() + QPoint(3, below ? 25 : 5);
     }
 
     // Does what a user does, step by step: "press Text1 Ctrl+End, click Command1", or on a cell
-    // with a button of the mouse, "left thermal_char 220"; "down" and "up" are halves of "left".
+    // with a button of the mouse, "left thermal_char 220", or below the cell, between two rows,
+    // "left thermal_char 220 below". "down" and "up" are the halves of "left".
     void act(const QString& steps) {
         using enum QTest::MouseAction;
         static const QHash<QString, std::pair<QTest::MouseAction, Qt::MouseButton>> mouse_verbs{
@@ -129,11 +131,15 @@ protected:
             if (words[0] == "press") {
                 control.setFocus();
                 press(QKeySequence(words[2]));
-            } else if (mouse_verbs.contains(words[0])) {
-                const auto& [action, button] = mouse_verbs[words[0]];
-                mouse(action, control, place_in(control, words.value(2)), button);
-            } else
-                FAIL() << "nobody can " << step.toStdString();
+                continue;
+            }
+            ASSERT_TRUE(mouse_verbs.contains(words[0])) << "nobody can " << step.toStdString();
+            const auto& [action, button] = mouse_verbs[words[0]];
+            const auto* cells = qobject_cast<const CellArray*>(&control);
+            const QPoint place =
+                cells == nullptr ? control.rect().center()
+                                 : place_of(*cells, words[2].toInt(), words.value(3) == "below");
+            mouse(action, control, place, button);
         }
     }
 
