@@ -30,6 +30,6 @@ class=$(xprop -id "$window" WM_CLASS)
 [[ $class == *"\"$(value_of StartupWMClass)\""* ]] || fail "the desktop entry does not name $class"
 
 click "${quit[@]}"
-program_has_ended
+expect_end
 rmdir "$folder/home" || fail "the program has left something behind"
 echo "The installed program starts, shows its window and quits."

@@ -15,6 +15,6 @@ open_accessibility_bus
 "$1" &
 program_id=$!
 /usr/bin/python3 "$top/scripts/accessible.py"
-program_has_ended
+expect_end
 rm -r "$folder"
 echo "The program starts, shows its window and quits under Wayland."

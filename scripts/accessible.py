@@ -6,6 +6,7 @@ Waits until the program is on the bus.
 
 import sys
 import time
+from functools import partial
 
 import gi
 
@@ -52,9 +53,9 @@ if __name__ == "__main__":
     controls = {control.get_name(): control for control in children(window())}
     scale = controls["Thermal scale"]
     cell = scale.get_child_at_index(5)
-    for action, side in enumerate(("Start", "End")):  # marks the cell as such
+    for action, side in (0, "Start"), (1, "End"):  # marks the cell as such
         box = controls[f"{side}, degrees Celsius"]
-        expect("object:property-change:accessible-value", box, lambda action=action: cell.do_action(action))
+        expect("object:property-change:accessible-value", box, partial(cell.do_action, action))
     controls["Preset 10: red 255, green 0, blue 0"].do_action(0)
     expect("object:property-change:accessible-description", scale, lambda: controls["Apply Color"].do_action(0))
     controls["Quit"].do_action(0)

@@ -68,7 +68,7 @@ start_program() {
 
 is_gone() { ! kill -0 "$program_id"; }
 
-program_has_ended() {
+expect_end() {
     wait_until is_gone
     wait "$program_id" || fail "the program ended with status $?"
 }

@@ -20,19 +20,19 @@ save_as() {
 start() {
     start_program env HOME="$folder/home" XDG_CONFIG_HOME="$folder/home" XDG_CURRENT_DESKTOP=KDE \
         KDE_SESSION_VERSION=5 "${program[@]}" -platform offscreen # no argument is read
-    see "${ground[@]}" f0f0f0
+    see "${ground[@]}" f0f0f0 # on a dark desktop, too
 }
 
-# After another window, cells still take a colour and give theirs.
+# After another window, the current colour is still red, and cells take it and give theirs.
 expect_cells_to_work() {
     in_window "Cirrava PAL"
     sea_cell 1 click
     sea_cell 1 click 3
-    click "${preset_9[@]}"
     click "${apply[@]}"
     sea_cell 1 see ff0000
     sea_cell 240 double_click
     see "${swatch[@]}" 000000
+    click "${preset_9[@]}"
     xdotool key ctrl+z
     sea_cell 1 see 000000
 }
@@ -77,8 +77,8 @@ xdotool key Escape
 in_window "CirravaPal"
 xdotool key Return
 expect_cells_to_work
-# A range that starts behind its end is refused. The message takes the release of a press on a cell, which
-# must not count later, with another press between two rows.
+# A range that starts behind its end, which is cell 1 now, is refused. The message takes the release of a
+# press on a cell, which must not count later, with another press between two rows.
 sea_cell 30 click
 sea_cell 35 point_at
 xdotool mousedown 1 key ctrl+Return
@@ -89,13 +89,13 @@ point_at 4800 4800
 xdotool mousedown 3
 sea_cell 40 point_at
 xdotool mouseup 3 key ctrl+Return
-in_window "CirravaPal" # since the end is where it was
+in_window "CirravaPal" # which would not come if the end were cell 40 now
 # Its OK lies over cells, which do not get the second half of a double click.
 eval "$(xdotool getwindowgeometry --shell "$(xdotool getactivewindow)")"
 xdotool mousemove --window "$WINDOW" $((WIDTH - 50)) $((HEIGHT - 20)) click --repeat 2 --delay 80 1
 expect_cells_to_work
 xdotool key alt+F4
-program_has_ended
+expect_end
 
 start
 click "${hvc_butt[@]}"
@@ -121,13 +121,13 @@ see "${preview_of_cell_30[@]}" ff0000
 picture 4-undone
 
 click "${quit[@]}"
-program_has_ended
+expect_end
 
 if [[ -z $drive ]]; then # screen readers, which Wine has none for
     open_accessibility_bus
     start
     /usr/bin/python3 "$top/scripts/accessible.py"
-    program_has_ended
+    expect_end
 fi
 [[ $(ls -A home) == kdeglobals ]] || fail "the program has left something behind: $(ls -A home)"
 rm -r home

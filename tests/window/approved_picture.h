@@ -62,11 +62,11 @@ inline void expect_approved_texts(const QWidget& window, const QString& picture)
         file.write(seen.c_str());
     file.close();
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(file.fileName());
-    EXPECT_EQ(seen, file.readAll().toStdString());
+    EXPECT_EQ(seen, file.readAll().toStdString()) << "CIRRAVA_APPROVE=1 approves it";
 }
 
 // Releases of Qt and of the fonts set letters a little apart, so these have only to be near to like
-// ones. They break the lines of a help text elsewhere: of that the picture has the first words.
+// ones. They break the lines of a help text elsewhere: of that the window keeps the first words.
 inline void expect_as_approved(QWidget& window, const QString& picture) {
     expect_approved_texts(window, picture);
     if (auto* help = window.findChild<QPlainTextEdit*>())
@@ -88,7 +88,7 @@ inline void expect_as_approved(QWidget& window, const QString& picture) {
     QSet<QString> controls;
     for (int x = 0; x < seen.width(); ++x)
         for (int y = 0; y < seen.height(); ++y) {
-            const QPoint place(x, y);
+            const QPoint place(x, y); // equal there, or letters about equal nearby
             if (alike(seen, approved, place, 0, 4) ||
                 (letters.contains(2 * place) && alike(seen, approved, place, 2, 80)))
                 continue;

@@ -78,6 +78,8 @@ TEST_F(Controls, TheTemperaturesInBoxesCanBeMarked) {
     QTest::mouseMove(window.windowHandle(), box.geometry().center()); // as the pointer comes there
     mouse(QTest::MouseDClick, box, {12, 8});
     EXPECT_TRUE(box.selectedText().startsWith("92")) << qPrintable(box.selectedText()); // of -92.5
+    act("press Text2 Shift+Tab");
+    EXPECT_TRUE(box.hasFocus()); // as before it was pointed at
 }
 
 TEST_F(Controls, TheColourDialogOpensAtTheColour) {

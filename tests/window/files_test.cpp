@@ -37,7 +37,9 @@ TEST_F(Files, AreAskedForWrittenAndReadBack) {
     EXPECT_EQ(seen_after(Qt::Key_O, std::nullopt),
               (QStringList{"Read and Load palette:  of *.bmp in PROGRAM", "Operation Cancelled"}));
     const std::tuple<const char*, CellArray&, const char*, int, Colour, QString> scales[]{
-        // the button, the cells, the dialog, the file's size, the colour read back, a failure
+        // the button, the cells, the dialog, the file's size (Sea's is shorter than Thermal's,
+        // which
+        // it is written over), the colour read back (of HVC two levels darker), a failure
         {"thermal_butt", thermal(), "Create Thermal: thermal", 1014, 0x030201, "Error# 75"},
         {"Sea_butt", sea(), "Create Sea Surface Palette: sea", 1014, 0x030201, "Error # 75"},
         {"hvc_butt", hvc(), "Create HVC Palette: hvc", 76854, 0x010000, "Error # 75"}};
@@ -97,6 +99,7 @@ TEST_F(Files, ThatFailChangeNothingAndAreClosed) {
     EXPECT_EQ(QFileInfo("~~temphvc.bmp").size(), 76854);
     const QImage before = on_screen(window);
     EXPECT_EQ(seen_after(Qt::Key_O, folder.path()).last(), "Error # 75 Cannot Read File");
+    // No Unicode.
     EXPECT_EQ(seen_after(Qt::Key_O, QChar(0xD800)).last(), "Error # 52 Cannot Read File");
     EXPECT_EQ(seen_after(Qt::Key_O, CORPUS "/text.bmp").size(), 2);
     seen_after(Qt::Key_S, folder.path());

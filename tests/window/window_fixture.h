@@ -110,9 +110,9 @@ protected:
     }
     void press(const QKeySequence& keys) { QTest::keySequence(window.focusWidget(), keys); }
 
-    // In the strip of a cell, or below that, between two rows.
-    static QPoint place_of(const CellArray& cells, int cell, bool below = false) {
-        return cells.cell_box(cell).topLeft() + QPoint(3, below ? 25 : 5);
+    // In the strip of a cell.
+    static QPoint place_of(const CellArray& cells, int cell) {
+        return cells.cell_box(cell).topLeft() + QPoint(3, 5);
     }
 
     // Does what a user does, step by step: "press Text1 Ctrl+End, click Command1", or on a cell
@@ -137,9 +137,8 @@ protected:
             const auto& [action, button] = mouse_verbs[words[0]];
             const auto* cells = qobject_cast<const CellArray*>(&control);
             const QPoint place =
-                cells == nullptr ? control.rect().center()
-                                 : place_of(*cells, words[2].toInt(), words.value(3) == "below");
-            mouse(action, control, place, button);
+                cells != nullptr ? place_of(*cells, words[2].toInt()) : control.rect().center();
+            mouse(action, control, place + QPoint(0, words.value(3) == "below" ? 20 : 0), button);
         }
     }
 
