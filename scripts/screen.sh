@@ -1,5 +1,5 @@
 # A private screen with a window manager, used as a person would: mouse, keys, and a look at the
-# screen. To be sourced, with `folder` set before a picture is taken.
+# screen. To be sourced, with `folder` set before anything is opened or started.
 # Everything waits for a state of the screen or of a file and gives up after a minute.
 
 patience=60 # seconds

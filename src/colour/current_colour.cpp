@@ -27,7 +27,7 @@ void CurrentColour::Color_to_RGB(Colour color) {
 }
 
 void CurrentColour::follow_sliders() {
-    if (!in_reach(channels_[0].slider))
+    if (!in_reach(channels_[0].slider)) // where one of them is, all are
         return take(colour());
     const int red = channels_[0].slider.value();
     const int green = channels_[1].slider.value();

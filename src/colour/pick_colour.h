@@ -5,8 +5,8 @@
 
 namespace cirrava {
 
-// Takes the current colour from the colour dialog, which opens at it. A cancel changes nothing and
-// says nothing.
+// Takes the current colour from the colour dialog, which opens at it, or at white where it is
+// black. A cancel changes nothing and says nothing.
 void pick_colour(CommonDialog& cdlopen, CurrentColour& current_colour);
 
 } // namespace cirrava

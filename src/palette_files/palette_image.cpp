@@ -13,14 +13,16 @@ constexpr std::size_t pixel_size = 3;
 constexpr int own_colours_row = 127; // of the HVC image, counted from the top
 
 // The stored row, counted from the bottom, from which the cells of an HVC file are taken. It is two
-// rows below the cells' own colours: they come back two levels darker than they were written.
+// rows below the cells' own colours: they come back two levels darker than they were written. So
+// users know it: what a file gives back is fixed as its bytes are.
 constexpr std::size_t stored_cells_row = 126;
 
 std::uint8_t shifted(int channel, int levels) {
     return static_cast<std::uint8_t>(std::clamp(channel + levels, 0, 255));
 }
 
-// Returns the headers of an image of so many rows, with memory reserved for the rows.
+// Returns the headers of an image of so many rows, with memory reserved for the rows and their
+// padding.
 Bytes headers_of(std::span<const Colour> cells, int rows) {
     Bytes bytes;
     bytes.reserve(headers_size + (cells.size() + 1) * pixel_size * static_cast<std::size_t>(rows));
@@ -45,7 +47,8 @@ std::optional<ScaleKind> kind_of_size(std::int32_t biWidth, std::int32_t biHeigh
     return std::nullopt;
 }
 
-// Pixels are looked for in steps of 4 bytes after the headers, up to where bfOffBits puts them.
+// Pixels are looked for in steps of 4 bytes after the headers, up to where bfOffBits puts them, or
+// up to 3 bytes before it: this is fixed, too.
 long pixels_offset(std::int32_t bfOffBits) {
     constexpr auto end_of_headers = static_cast<std::int32_t>(headers_size);
     return bfOffBits <= end_of_headers ? end_of_headers
@@ -69,6 +72,7 @@ Bytes row_image(std::span<const Colour> cells) {
     return bytes;
 }
 
+// They are those of the image's row 128 + 4 * steps, or of 126 + 4 * steps where that is above.
 int brightness_levels(int steps) {
     if (steps == 0)
         return 0;

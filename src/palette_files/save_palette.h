@@ -11,7 +11,7 @@ namespace cirrava {
 struct SaveTexts {
     QString file_name;     // proposed, in the program's folder
     QString title;         // of the file dialog
-    QString message_start; // when it fails
+    QString message_start; // when it fails; "Error#" and "Error # " are both as users know them
 };
 
 // Asks which file to write and whether to write it, and writes `image` to it. Returns whether it is

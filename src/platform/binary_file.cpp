@@ -12,8 +12,10 @@ namespace {
 using enum FailureNumber;
 
 FailureNumber failure_of(std::error_code error) {
-    // The portable condition, since the code itself is the operating system's own on Windows.
-    switch (error.default_error_condition().value()) {
+    const auto portable = error.default_error_condition();
+    if (portable.category() != std::generic_category())
+        return device_error; // a number of the operating system's own
+    switch (portable.value()) {
     case EACCES:
     case EPERM:
     case EROFS:
@@ -65,6 +67,7 @@ BinaryFile::BinaryFile(const std::filesystem::path& path, FileAccess access) : p
     if (path.empty())
         throw Failure{bad_file_name};
     std::error_code unanswered;
+    // Before it is opened, which alone may have a device do something.
     const auto status = std::filesystem::status(path, unanswered);
     if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
         throw Failure{path_access};

@@ -10,7 +10,8 @@ namespace cirrava {
 
 enum class FileAccess {
     read,  // an existing file
-    write, // created when missing, never shortened; may be read, too
+    write, // created when missing; may be read, too; never shortened: what is there is lost only
+           // where it is written over, and readers of a palette look at nothing behind it
     own    // as write, but neither through a link nor into a file with a second name
 };
 

@@ -52,7 +52,8 @@ std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {
     return ::fdopen(descriptor, access == FileAccess::read ? "rb" : "r+b");
 }
 
-// Not every file system can; what it cannot write, it tells later. The file keeps its length.
+// Not every file system can; what it cannot write, it tells later. The file keeps its length, for
+// which this needs a call of Linux's own.
 bool reserve_room(std::FILE* stream, std::size_t size) {
     const int file = ::fileno(stream);
     return ::fallocate(file, FALLOC_FL_KEEP_SIZE, ::lseek(file, 0, SEEK_CUR),

@@ -8,8 +8,8 @@ namespace cirrava {
 namespace {
 
 // The rights asked for with a key: reading, writing, creating and enumerating subkeys, change
-// notification, link creation, and the reading of its permissions. Where a user lacks one of them,
-// the key counts as missing.
+// notification, link creation, and the reading of its permissions. More than reading needs, on
+// purpose: a key that the user may not change as well counts as missing.
 constexpr REGSAM access_mask = 0x2003F;
 
 constexpr DWORD longest_value = 1024;

@@ -64,12 +64,11 @@ void CellArray::lay_out(int left, int top, int dpi) {
     top_ = top;
     dpi_ = dpi;
     const int count = cell_count(kind_);
-    const int rows = (count - 1) / cells_per_row;
-    const int columns = std::min(count, cells_per_row) - 1;
-    const QMargins hairline(1, 1, 1, 0); // below is room
-    setGeometry(
-        to_pixels({left, top, columns * pitch + cell_size, rows * row_pitch + room_for_line}, dpi) +
-        hairline);
+    const int last_row = (count - 1) / cells_per_row;
+    const int last_column = std::min(count, cells_per_row) - 1;
+    const TwipRect all{left, top, last_column * pitch + cell_size,
+                       last_row * row_pitch + room_for_line};
+    setGeometry(to_pixels(all, dpi) + QMargins(1, 1, 1, 0)); // a hairline; below is room
 }
 
 QRect CellArray::cell_box(int cell) const {

@@ -59,7 +59,7 @@ public:
 signals:
     void changed(); // a colour, or several at once
     void marked(int cell, Side side);
-    void colour_asked(int cell); // by a double click with the left button
+    void colour_asked(int cell); // by a double click with the left button, or a screen reader
 
     // A mouse button that was pressed over a cell was released at `point` of the window: the left
     // one for the start of the range, any other for its end.

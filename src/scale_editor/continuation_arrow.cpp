@@ -14,7 +14,7 @@ void ContinuationArrow::paintEvent(QPaintEvent*) {
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const double zoom = width() / 17.0;
+    const double zoom = width() / 17.0; // which its box has at 96 dots per inch
     painter.translate(width() / 2.0, height() / 2.0);
     painter.scale(zoom, zoom);
     painter.translate(-6, -7);

@@ -7,7 +7,7 @@ namespace cirrava {
 PaletteHistory::PaletteHistory(const AllScales& scales, std::function<void()> hvc_changed)
     : scales_(scales), hvc_changed_(std::move(hvc_changed)) {
     for (const ScaleControls& scale : scales)
-        QObject::connect(&scale.cells, &CellArray::changed, &scale.cells, [this] { remember(); });
+        QObject::connect(&scale.cells, &CellArray::changed, &listener_, [this] { remember(); });
 }
 
 // An action of the user changes the cells of one scale, and all of them at once. So neighbours in

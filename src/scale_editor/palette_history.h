@@ -31,6 +31,7 @@ private:
     std::function<void()> hvc_changed_;
     QList<Palettes> past_and_future_{palettes()};
     qsizetype current_ = 0;
+    QObject listener_; // whose end is that of the connections
 };
 
 } // namespace cirrava

@@ -33,7 +33,8 @@ std::string text_of(double value, std::chars_format format, int precision) {
     return {buffer.data(), end};
 }
 
-// Writes at most 15 significant digits, which hide the noise: 14.360000000000001 gives 14.36.
+// Writes at most 15 significant digits, which hide most of the noise: 14.360000000000001 gives
+// 14.36, but -18 degrees Celsius are -0.399999999999999 in Fahrenheit.
 std::string plain_text(double value) {
     return text_of(value, std::chars_format::general, 15);
 }
@@ -69,6 +70,7 @@ std::string tick_text(ScaleKind kind, int cell) {
     return plain_text(celsius(kind, cell)) + "C/" + fahrenheit_text(kind, cell) + "F";
 }
 
+// Spelt as users know it.
 std::string tooltip_text(ScaleKind kind, int cell) {
     return std::string("(") + std::to_string(cell + 1) + ") " + celsius_text(kind, cell) +
            "Celcius / " + fahrenheit_text(kind, cell) + "Farenheit";

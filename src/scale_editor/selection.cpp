@@ -92,10 +92,11 @@ void Selection::show_range() {
     const ScaleKind kind = working_scale_->kind();
     for (const auto& [boxes, cell, shown] : {range_start_, range_end_}) {
         boxes.celsius.show_cell(kind, shown ? std::optional(cell) : std::nullopt);
-        boxes.fahrenheit.setText(shown ? to_qt(fahrenheit_text(kind, cell)) : QString(" "));
+        const QString fahrenheit = shown ? to_qt(fahrenheit_text(kind, cell)) : QString(" ");
+        boxes.fahrenheit.setText(fahrenheit);
         // Of a box without a value, screen readers say the name alone.
         boxes.fahrenheit.setAccessibleName(boxes.fahrenheit.accessibleDescription() + " " +
-                                           boxes.fahrenheit.text());
+                                           fahrenheit);
     }
     for (const ScaleControls& scale : scales_) {
         const bool working = &scale == working_scale_;

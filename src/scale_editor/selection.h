@@ -57,7 +57,7 @@ private:
     // One side of the range.
     struct Bound {
         Boxes boxes;
-        int cell = 0;       // of the scale that was clicked last
+        int cell = 0;       // of the scale on which this side was marked last
         bool shown = false; // in the boxes; then it is a cell of the working scale
     };
 

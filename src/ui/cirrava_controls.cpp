@@ -130,7 +130,7 @@ CirravaControls::CirravaControls(QWidget& window) : Placer(window, "Cirrava PAL"
     control(sample, "sample", "Current colour", {11640, 7560, 1575, 975});
     for (std::size_t i = 0; i < color.size(); ++i) {
         const QRgb colour = preset_colours[i];
-        const int slot = static_cast<int>(i < 8 || i % 8 > 1 ? i : i % 8 == 0 ? i + 1 : i - 1);
+        const int slot = static_cast<int>(i >= 8 && i % 8 < 2 ? i ^ 1 : i); // 8 with 9, ...
         button(color[i], member("color", i), "", {2040 + 240 * slot, 7200, 240, 240},
                {.ground = colour});
         color[i].resize(color[i].size() + QSize(1, 1)); // neighbours share an edge at every size

@@ -51,7 +51,7 @@ public:
         : QDialog(&parent), Placer(*this, title, client_area) {
         setObjectName(name);
         if (!heading.text.isEmpty())
-            label(*new QLabel, "Label1", heading.text, heading.rect, heading.look); // owned by it
+            label(*new QLabel, "Label1", heading.text, heading.rect, heading.look); // the window's
         control(Text1_, "Text1", title, text.rect);
         give_look(Text1_, text.look);
         Text1_.setAutoFillBackground(false); // within its frame, it fills itself

@@ -10,7 +10,7 @@ namespace cirrava {
 
 // Lays out a window that cannot be resized, from rectangles in twips and fonts in points. Where the
 // window would not fit on its screen, the layout is made for fewer dots per inch than the screen
-// has, down to 0.6 of them.
+// has: down to 0.6 of them, or where each dot is of several device pixels, to 0.6 device pixels.
 class Placer {
 public:
     // Gives `window` that title, a close box and no other title-bar button, a client area of that
@@ -31,9 +31,9 @@ public:
     // Gives `control` the font and colours of `look`.
     void give_look(QWidget& control, const Look& look) const;
 
+private:
     QFont scaled_font(const FontLook& look) const;
 
-private:
     QWidget& window_;
     int dpi_;
     double shrink_;

@@ -38,7 +38,7 @@ struct Dialogs {
 // folder, in its side bar; none where it is empty.
 Dialogs qt_dialogs(QWidget& parent, const QString& examples = {});
 
-// The title of every message that gives none of its own.
+// The program's name as its messages have it, which give no title of their own, and About.
 inline constexpr QLatin1StringView program_title("CirravaPal");
 
 } // namespace cirrava

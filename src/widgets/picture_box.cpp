@@ -14,7 +14,8 @@ void PictureBox::paintEvent(QPaintEvent* event) {
     painter.setClipRect(contentsRect());
     const QRectF box(contentsRect().topLeft(), image_.deviceIndependentSize() * zoom_);
     QImage shown = image_;
-    if (zoom_ < image_.devicePixelRatio() && !image_.isNull()) // a smooth painter starts threads
+    // Here, since a painter that smooths would start threads.
+    if (zoom_ < image_.devicePixelRatio() && !image_.isNull())
         shown = image_.scaled((box.size() * devicePixelRatioF()).toSize(), Qt::IgnoreAspectRatio,
                               Qt::SmoothTransformation);
     painter.drawImage(box, shown);

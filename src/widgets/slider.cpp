@@ -10,7 +10,7 @@ namespace cirrava {
 Slider::Slider(int maximum) : QScrollBar(Qt::Horizontal) {
     setRange(0, maximum);
     setPageStep(1);
-    setInvertedControls(false); // right and up are more, for keys and wheel
+    setInvertedControls(false); // right and up are more, as with the wheel below
     setContextMenuPolicy(Qt::NoContextMenu);
     setFocusPolicy(Qt::StrongFocus);
     set_track(palette().color(QPalette::Window), palette().color(QPalette::Window));

@@ -6,9 +6,10 @@
 namespace cirrava {
 
 // A horizontal slider for a number from 0 to `maximum`, with arrows at its ends: arrows, track,
-// keys and each notch of the wheel move it by 1, and Tab reaches it. When something other than the
-// mouse button ends a drag, such as a window that opens, the thumb goes back to the number. The
-// track is plain, or shows a colour for each number, which is seen through the thumb.
+// keys and each notch of the wheel move it by 1, Home and End to its ends, and Tab reaches it. When
+// something other than the mouse button ends a drag, such as a window that opens, the thumb goes
+// back to the number. The track is plain, or shows a colour for each number, which is seen through
+// the thumb.
 class Slider : public QScrollBar {
     Q_OBJECT
 public:

@@ -21,7 +21,7 @@ protected:
     // To mark text, Qt makes a document of it, which would cost every start time and memory.
     void enterEvent(QEnterEvent*) override {
         setTextInteractionFlags(Qt::TextSelectableByMouse);
-        setFocusPolicy(Qt::StrongFocus);
+        setFocusPolicy(Qt::StrongFocus); // which Qt has just changed to that of a click
     }
 };
 
