@@ -27,8 +27,8 @@ constexpr Look in_green{.text = qRgb(0, 255, 0), .font = bold_12};
 constexpr Look in_blue{.text = blue, .font = bold_12};
 constexpr Look narrow_bold{.font = {FontFamily::narrow, 9.75, true}};
 
-// Red, green and blue in two digits each. The five pairs that stand swapped make each line go from
-// light to dark on the screen.
+// Red, green and blue in two digits each. Five pairs stand swapped; so each line goes from light to
+// dark on the screen, but for the last two browns.
 constexpr std::array<QRgb, 48> preset_colours{
     0xFFFFFF, 0xE0E0E0, 0xC0C0C0, 0x808080, 0x404040, 0x000000, // greys
     0xFFC0C0, 0xFF8080, 0xC00000, 0xFF0000, 0x800000, 0x400000, // reds

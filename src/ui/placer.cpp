@@ -34,8 +34,8 @@ private:
     QSize size_;
 };
 
-// Returns by how much a client area must be shrunk to fit on `screen`: 1 at the most, and so much
-// at the least that the eye still has 0.6 device pixels where the layout has a dot.
+// Returns by how much a client area must be shrunk to fit on `screen`: to 1 at the most, and not
+// below 0.6 device pixels for each dot.
 double fitting(QSize client_area, const QScreen& screen) {
     constexpr QSize frame(10, 40); // about what window managers put around a window
     const QSizeF room = screen.availableSize() - frame;

@@ -10,7 +10,7 @@ namespace cirrava {
 
 // Lays out a window that cannot be resized, from rectangles in twips and fonts in points. Where the
 // window would not fit on its screen, the layout is made for fewer dots per inch than the screen
-// has: down to 0.6 of them, or where each dot is of several device pixels, to 0.6 device pixels.
+// has, down to 0.6 device pixels for each.
 class Placer {
 public:
     // Gives `window` that title, a close box and no other title-bar button, a client area of that

@@ -24,7 +24,7 @@ bool Button::event(QEvent* event) {
     return QPushButton::event(event);
 }
 
-// Qt makes a screen reader's press a click a while later.
+// Qt makes a screen reader's press a click a while later. By then the button may be out of reach.
 void Button::timerEvent(QTimerEvent* event) {
     const QSignalBlocker silence(isDown() && in_reach(*this) ? nullptr : this);
     QPushButton::timerEvent(event);

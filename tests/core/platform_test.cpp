@@ -10,11 +10,11 @@ namespace cirrava {
 
 TEST(BinaryFile, FailuresToOpenHaveTheirNumbers) {
     std::string folder = (std::filesystem::temp_directory_path() / "cirrava-XXXXXX").string();
-    ASSERT_NE(mkdtemp(folder.data()), nullptr);
-    mkfifo((folder + "/pipe").c_str(), 0666);
-    for (const char* name : {"/file", "/secret"})
-        std::ofstream(folder + name) << "text";
-    chmod((folder + "/secret").c_str(), 0);
+    ASSERT_TRUE(mkdtemp(folder.data()) != nullptr && chdir(folder.c_str()) == 0);
+    mkfifo("pipe", 0666);
+    for (const char* name : {"file", "secret"})
+        std::ofstream(name) << "text";
+    chmod("secret", 0);
     const auto number_of = [](const std::string& path, FileAccess access) {
         try {
             const BinaryFile file(path, access);
@@ -28,24 +28,24 @@ TEST(BinaryFile, FailuresToOpenHaveTheirNumbers) {
         EXPECT_EQ(number_of(path, FileAccess::write), writing) << path;
     };
     check("", 52, 52);
-    check(folder + "/" + std::string(300, 'a'), 52, 52);
-    check(folder + "/missing", 53, 0);
-    check(folder + "/no folder/file", 76, 76);
-    check(folder + "/file/file", 76, 76);
-    for (const std::string& no_file : {folder, folder + "/pipe", std::string("/dev/null")})
+    check(std::string(300, 'a'), 52, 52);
+    check("missing", 53, 0);
+    check("no folder/file", 76, 76);
+    check("file/file", 76, 76);
+    for (const char* no_file : {".", "pipe", "/dev/null"})
         check(no_file, 75, 75);
-    chmod((folder + "/file").c_str(), 0444);
-    chmod(folder.c_str(), 0555);
+    chmod("file", 0444);
+    chmod(".", 0555);
     const auto check_as_nobody = [&] { // in a process of its own, since root may do everything
         EXPECT_TRUE(geteuid() != 0 || setuid(65534) == 0);
-        check(folder + "/file", 0, 75);
-        check(folder + "/secret", 75, 75);
-        check(folder + "/new", 53, 75);
-        EXPECT_FALSE(may_write_in(folder));
+        check("file", 0, 75);
+        check("secret", 75, 75);
+        check("new", 53, 75);
+        EXPECT_FALSE(may_write_in("."));
         _exit(testing::Test::HasFailure() ? 1 : 0);
     };
     EXPECT_EXIT(check_as_nobody(), testing::ExitedWithCode(0), "");
-    chmod(folder.c_str(), 0755);
+    chmod(".", 0755);
     std::filesystem::remove_all(folder);
 }
 

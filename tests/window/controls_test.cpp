@@ -27,6 +27,7 @@ TEST_F(Controls, BoxesTellWhatTheyShow) {
     auto* const value = heard("Text1").valueInterface();
     EXPECT_EQ(heard("Text1").role(), QAccessible::SpinBox);
     EXPECT_TRUE(qIsNaN(value->currentValue().toDouble()));
+    EXPECT_EQ(heard("Text1").text(QAccessible::Description), "blank");
     act("left Label2 1");
     EXPECT_DOUBLE_EQ(value->currentValue().toDouble(), -9.8);
     EXPECT_DOUBLE_EQ(value->maximumValue().toDouble(), 39.8);
