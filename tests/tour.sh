@@ -54,7 +54,7 @@ folder=$(realpath "${2:-$(mktemp --directory)}")
 open_screen 1280x800
 cd "$folder"
 mkdir home
-printf '[Colors:Window]\nBackgroundNormal=35,38,41\nForegroundNormal=252,252,252\n' >home/kdeglobals
+printf '[Colors:%s]\nBackgroundNormal=35,38,41\n' Window Button View Tooltip >home/kdeglobals
 start
 picture 1-start
 
@@ -91,8 +91,8 @@ sea_cell 40 point_at
 xdotool mouseup 3 key ctrl+Return
 in_window "CirravaPal" # which would not come if the end were cell 40 now
 # Its OK lies over cells, which do not get the second half of a double click.
-eval "$(xdotool getwindowgeometry --shell "$(xdotool getactivewindow)")"
-xdotool mousemove --window "$WINDOW" $((WIDTH - 50)) $((HEIGHT - 20)) click --repeat 2 --delay 80 1
+eval "$(xdotool getactivewindow getwindowgeometry --shell)"
+xdotool getactivewindow mousemove --window %1 $((WIDTH - 50)) $((HEIGHT - 20)) click --repeat 2 --delay 80 1
 expect_cells_to_work
 xdotool key alt+F4
 expect_end
