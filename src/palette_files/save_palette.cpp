@@ -14,7 +14,8 @@ bool ask_whether_to(const QString& verb, CommonDialog& cdlopen) {
 }
 
 // Asks whether to write the file that was chosen. While the question stands, another program may
-// make a file there: then that is asked about, too.
+// make a file there: then that is asked about, too. Hidden files count as none, as users know it:
+// they are written over after "Write" alone.
 bool may_write(CommonDialog& cdlopen) {
     const auto path = cdlopen.file_path();
     if (plain_file_exists(path))

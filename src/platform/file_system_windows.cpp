@@ -23,7 +23,7 @@ bool has_one_name(HANDLE file, const std::filesystem::path& path) {
 
 } // namespace
 
-void prepare_for_files() {} // such writes fail like any other here
+void prepare_for_files() {} // such writes fail like any other here, and streams keep their places
 
 // Opens only what a file list shows under that path later.
 std::FILE* open_stream(const std::filesystem::path& path, FileAccess access) {

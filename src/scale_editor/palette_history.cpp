@@ -26,7 +26,7 @@ void PaletteHistory::go_to(qsizetype index) {
     const bool changes_hvc = past_and_future_[index].back() != past_and_future_[current_].back();
     current_ = index;
     for (std::size_t i = 0; i < scales_.size(); ++i)
-        scales_[i].cells.set_colours(past_and_future_[index][i]);
+        scales_[i].cells.set_colours(std::as_const(past_and_future_)[index][i]);
     if (changes_hvc)
         hvc_changed_();
 }

@@ -20,7 +20,7 @@ public:
     void redo() { go_to(current_ + 1); }
 
 private:
-    // By scale. The lists of scales that did not change share their colours.
+    // By scale. Neighbours share the colours of the scales in which they do not differ.
     using Palettes = std::array<QList<Colour>, std::tuple_size_v<AllScales>>;
 
     Palettes palettes() const;

@@ -47,6 +47,8 @@ QString member(const QString& array, std::size_t index) {
 
 } // namespace
 
+// The places are as users know them, those of temperatures a cell beside theirs, too.
+//
 // Each line has a control's name, its caption (or what screen readers say of one without), its
 // left, top, width and height in twips, and its look. Where two controls overlap, the later one
 // lies on top: cells above temperatures and arrows, buttons above cells.

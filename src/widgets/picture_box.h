@@ -10,7 +10,7 @@ namespace cirrava {
 class PictureBox : public QFrame {
     Q_OBJECT
 public:
-    // Before it is shown: the width in pixels of the box of what the image counts as one.
+    // Before it is shown: how large to show the image, of which 1 is its own size.
     void set_zoom(double zoom) { zoom_ = zoom; }
 
     void show_image(const QImage& image);

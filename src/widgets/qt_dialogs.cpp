@@ -149,8 +149,8 @@ private:
     QLabel* label() const {
         const QFontMetrics metrics = fontMetrics();
         const int room = screen()->availableGeometry().width() / 2;
-        // A title is about as wide in the fonts of most desktops, with an icon and buttons beside
-        // it.
+        // About the width of a title bar, with an icon and buttons beside the title, in the fonts
+        // of most desktops.
         const int title = 2 * metrics.horizontalAdvance(windowTitle()) + 10 * metrics.height();
         const QString shown = breakable(text_, metrics, room);
         auto* const label = new QLabel(shown);

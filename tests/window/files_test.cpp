@@ -37,9 +37,8 @@ TEST_F(Files, AreAskedForWrittenAndReadBack) {
     EXPECT_EQ(seen_after(Qt::Key_O, std::nullopt),
               (QStringList{"Read and Load palette:  of *.bmp in PROGRAM", "Operation Cancelled"}));
     const std::tuple<const char*, CellArray&, const char*, int, Colour, QString> scales[]{
-        // the button, the cells, the dialog, the file's size (Sea's is shorter than Thermal's,
-        // which
-        // it is written over), the colour read back (of HVC two levels darker), a failure
+        // The button, the cells, the dialog, the file's size (Sea's is shorter, but written over
+        // Thermal's), the colour read back (of HVC two levels darker), a failure.
         {"thermal_butt", thermal(), "Create Thermal: thermal", 1014, 0x030201, "Error# 75"},
         {"Sea_butt", sea(), "Create Sea Surface Palette: sea", 1014, 0x030201, "Error # 75"},
         {"hvc_butt", hvc(), "Create HVC Palette: hvc", 76854, 0x010000, "Error # 75"}};
