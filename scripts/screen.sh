@@ -73,10 +73,8 @@ expect_end() {
     wait "$program_id" || fail "the program ended with status $?"
 }
 
-scale_factor=1 # of Qt, as in QT_SCALE_FACTOR
-
 # pixels TWIPS: on a screen of 96 dots per inch.
-pixels() { echo $((scale_factor * $1 / 15)); }
+pixels() { echo $(($1 / 15)); }
 
 point_at() { xdotool mousemove --window "$window" "$(pixels "$1")" "$(pixels "$2")"; }
 

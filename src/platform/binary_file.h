@@ -12,9 +12,10 @@ namespace cirrava {
 
 using Bytes = std::vector<std::uint8_t>;
 
-// A regular file, open for as long as the object lives. Every operation that fails throws a
-// Failure: bad_file_name, file_not_found, device_error, disk_full, too_many_files, not_ready,
-// path_access (also for anything but a regular file) or path_not_found.
+// A regular file, open until `close`, after which nothing else may be called, or the object's end.
+// Every operation that fails throws a Failure: bad_file_name, file_not_found, device_error,
+// disk_full, too_many_files, not_ready, path_access (also for anything but a regular file) or
+// path_not_found.
 class BinaryFile {
 public:
     // Opens `path` at its first byte.
@@ -34,8 +35,8 @@ public:
     // failure.
     void sync();
 
-    // Ends the writing. On network drives, for instance, a failure may show only here. Without this
-    // call the file is closed too, but nobody learns of such a failure.
+    // Closes the file, and so ends the writing. On network drives, for instance, a failure may show
+    // only here. Without this call the file is closed too, but nobody learns of such a failure.
     void close();
 
     // The open file, for a library that reads it by itself.

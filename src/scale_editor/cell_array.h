@@ -17,7 +17,7 @@ namespace cirrava {
 // the palette; every cell starts black.
 //
 // The widget also covers the temperatures between its rows. There it is transparent, but for the
-// lines under cells, and reacts to nothing.
+// lines under cells, and a press counts only while another button is held.
 class CellArray : public QWidget, public Spoken {
     Q_OBJECT
 public:
@@ -61,8 +61,9 @@ signals:
     void marked(int cell, Side side);
     void colour_asked(int cell); // by a double click with the left button, or a screen reader
 
-    // A mouse button that was pressed over a cell was released at `point` of the window: the left
-    // one for the start of the range, any other for its end.
+    // A mouse button was released at `point` of the window: the left one for the start of the
+    // range, any other for its end. It was pressed over a cell, or anywhere while such a one was
+    // held.
     void released(QPointF point, Side side);
 
 protected:
@@ -88,7 +89,7 @@ private:
     int top_ = 0;
     int dpi_ = 96;
     int hovered_ = -1;         // where the pointer last moved here; -1 is no cell
-    Qt::MouseButtons pressed_; // over cells, and not yet released
+    Qt::MouseButtons pressed_; // whose release counts
 };
 
 } // namespace cirrava

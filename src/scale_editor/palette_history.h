@@ -20,7 +20,8 @@ public:
     void redo() { go_to(current_ + 1); }
 
 private:
-    // By scale. Neighbours share the colours of the scales in which they do not differ.
+    // By scale. Where nothing was undone between them, neighbours share the colours of the scales
+    // in which they do not differ.
     using Palettes = std::array<QList<Colour>, std::tuple_size_v<AllScales>>;
 
     Palettes palettes() const;

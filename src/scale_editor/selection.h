@@ -57,7 +57,7 @@ private:
     // One side of the range.
     struct Bound {
         Boxes boxes;
-        int cell = 0;       // of the scale on which this side was marked last
+        int cell = 0;       // of the scale on which this side was marked last; of HVC since a reset
         bool shown = false; // in the boxes; then it is a cell of the working scale
     };
 

@@ -66,7 +66,8 @@ QString chosen_in(const QFileDialog& dialog) {
     return dialog.selectedFiles().value(0);
 }
 
-// What a file is, by its name alone: Qt's own looks into files, which may take for ever.
+// What a file is, by its name and whether it is a folder: Qt's own looks into files, which may take
+// for ever.
 class FileKinds : public QFileIconProvider {
 public:
     QIcon icon(const QFileInfo& file) const override {
