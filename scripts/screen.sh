@@ -29,8 +29,9 @@ window_manager_answers() {
     [[ $(xdotool get_num_desktops) == 7 ]]
 }
 
-# open_screen SIZE
+# open_screen SIZE: also shuts out what the desktop says of its own screen.
 open_screen() {
+    unset WAYLAND_DISPLAY XDG_SESSION_TYPE QT_QPA_PLATFORM QT_SCALE_FACTOR QT_FONT_DPI
     local number="$folder/.display"
     : >"$number"
     # Without -noreset it starts anew when its last client leaves, and turns others away meanwhile.

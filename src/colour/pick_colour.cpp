@@ -11,7 +11,7 @@ void pick_colour(CommonDialog& cdlopen, CurrentColour& current_colour) {
         cdlopen.ShowColor(black ? Qt::white : to_qt(current_colour.colour()));
         current_colour.take(from_qt(cdlopen.Color));
     } catch (const Failure& failure) {
-        if (failure.number != FailureNumber::cancelled)
+        if (failure.number != FailureNumber::cancelled) // which no dialog of today's Qt throws
             cdlopen.tell("Error# ", failure, " A problem occured in color picking");
     }
 }

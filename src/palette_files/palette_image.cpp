@@ -72,8 +72,8 @@ Bytes row_image(std::span<const Colour> cells) {
     return bytes;
 }
 
-// They are those of the image's row 128 + 4 * steps for steps above 0, and of 126 + 4 * steps for
-// steps below.
+// The levels are those of the image's row 128 + 4 * steps for steps above 0, and of 126 + 4 * steps
+// for steps below.
 int brightness_levels(int steps) {
     if (steps == 0)
         return 0;

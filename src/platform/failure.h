@@ -17,7 +17,8 @@ enum class FailureNumber : int {
     cancelled = 32755    // the user left a file or colour dialog without a choice
 };
 
-// What every failing file or dialog action throws, and each user action catches once, at its end.
+// What a failing file or dialog operation throws. The action of the user that began it catches it
+// and tells its number, or says in a comment why not.
 struct Failure {
     FailureNumber number;
 };

@@ -113,7 +113,7 @@ bool CellArray::event(QEvent* event) {
 void CellArray::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const double device_pixels = devicePixelRatioF(); // to a pixel
-    const double hairline = qFloor(device_pixels) / device_pixels;
+    const double hairline = qMax(1, qFloor(device_pixels)) / device_pixels;
     for (const QRectF& row : rows_of({0, cell_count(kind_) - 1}))
         painter.fillRect(row.adjusted(-hairline, -hairline, hairline, hairline),
                          palette().color(QPalette::Mid));
@@ -122,7 +122,7 @@ void CellArray::paintEvent(QPaintEvent* event) {
         if (event->region().intersects(box))
             painter.fillRect(box, to_qt(colour(cell)));
     }
-    const double thickness = qFloor(2 * device_pixels) / device_pixels;
+    const double thickness = qMax(1, qFloor(2 * device_pixels)) / device_pixels;
     const auto paint_lines = [&](const Range& cells, double dash) {
         for (const QRectF& row : rows_of(cells))
             for (int i = 0; 2 * i * dash < row.width(); ++i) {

@@ -92,11 +92,10 @@ void Selection::show_range() {
     const ScaleKind kind = working_scale_->kind();
     for (const auto& [boxes, cell, shown] : {range_start_, range_end_}) {
         boxes.celsius.show_cell(kind, shown ? std::optional(cell) : std::nullopt);
-        const QString fahrenheit = shown ? to_qt(fahrenheit_text(kind, cell)) : QString(" ");
-        boxes.fahrenheit.setText(fahrenheit);
+        const QString text = shown ? to_qt(fahrenheit_text(kind, cell)) : QString(" ");
+        boxes.fahrenheit.setText(text);
         // Of a box without a value, screen readers say the name alone.
-        boxes.fahrenheit.setAccessibleName(boxes.fahrenheit.accessibleDescription() + " " +
-                                           fahrenheit);
+        boxes.fahrenheit.setAccessibleName(boxes.fahrenheit.accessibleDescription() + " " + text);
     }
     for (const ScaleControls& scale : scales_) {
         const bool working = &scale == working_scale_;

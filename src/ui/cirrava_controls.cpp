@@ -47,7 +47,7 @@ QString member(const QString& array, std::size_t index) {
 
 } // namespace
 
-// The places are as users know them, those of temperatures a cell beside theirs, too.
+// The places are as users know them; some temperatures stand a cell left or right of their own.
 //
 // Each line has a control's name, its caption (or what screen readers say of one without), its
 // left, top, width and height in twips, and its look. Where two controls overlap, the later one

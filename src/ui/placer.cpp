@@ -35,11 +35,11 @@ private:
 };
 
 // Returns by how much a client area must be shrunk to fit on `screen`: to 1 at the most, and not
-// below 0.6 device pixels for each dot.
+// below 0.6 device pixels for each dot where the screen has as many.
 double fitting(QSize client_area, const QScreen& screen) {
     constexpr QSize frame(10, 40); // about what window managers put around a window
     const QSizeF room = screen.availableSize() - frame;
-    return qBound(0.6 / screen.devicePixelRatio(),
+    return qBound(qMin(1.0, 0.6 / screen.devicePixelRatio()),
                   qMin(room.width() / client_area.width(), room.height() / client_area.height()),
                   1.0);
 }

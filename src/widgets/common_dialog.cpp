@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <optional>
 #include <system_error>
 
 namespace cirrava {

@@ -1,5 +1,6 @@
 #include "widgets/false_repeats.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
@@ -44,17 +45,20 @@ private:
     // a window has just closed, Qt may miss the release and report the next press as a repetition;
     // then something else was pressed in between.
     bool is_held(const QKeyEvent& press) const {
-        const bool repeats =
-            press.isAutoRepeat() || (released_ != 0 && press.timestamp() == released_);
-        return is_enter(press.key()) && enter_was_last_ && repeats;
+        return is_enter(press.key()) && enter_was_last_ &&
+               (press.isAutoRepeat() || (released_ != 0 && press.timestamp() == released_));
     }
 
-    // A press goes from a control on to what that lies in, until one takes it. (The double click of
-    // a control that leaves it to what that lies in would be lost; there is none.)
+    // A press goes from a control on to what that lies in, until one takes it. (No control leaves
+    // double clicks to what it lies in: they would be lost.)
     bool is_split(QObject& control, const QEvent& event) {
         if (event.type() == QEvent::MouseButtonPress)
             pressed_ = &control;
-        return event.type() == QEvent::MouseButtonDblClick && pressed_ != &control;
+        if (event.type() != QEvent::MouseButtonDblClick || pressed_ == &control)
+            return false;
+        const auto* const first = qobject_cast<QWidget*>(pressed_.data());
+        const auto* const button = qobject_cast<QAbstractButton*>(&control);
+        return first == nullptr || button == nullptr || first->window() != button->window();
     }
 
     bool enter_was_last_ = false; // of all that was pressed

@@ -9,7 +9,7 @@ namespace cirrava {
 // pixels.
 inline void paint_edge(QPainter& painter, const QRectF& box, const QColor& colour, int lines = 1) {
     const double device_pixels = painter.device()->devicePixelRatioF(); // to a pixel
-    const double width = lines * qRound(device_pixels) / device_pixels;
+    const double width = lines * qMax(1, qRound(device_pixels)) / device_pixels;
     QPainterPath edge;
     edge.addRect(box);
     edge.addRect(box.adjusted(width, width, -width, -width)); // which is left out
